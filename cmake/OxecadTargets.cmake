@@ -1,0 +1,49 @@
+# What every target of this project has in common. Nothing here touches global flags, so that the project can be a part
+# of another one.
+
+# oxecad_own(TARGET): C++20, our warnings, our sanitizers, hidden symbols.
+function(oxecad_own target)
+  target_compile_features(${target} PRIVATE cxx_std_20)
+  set_target_properties(${target} PROPERTIES
+    CXX_EXTENSIONS OFF
+    CXX_VISIBILITY_PRESET hidden
+    VISIBILITY_INLINES_HIDDEN ON
+    POSITION_INDEPENDENT_CODE ON)
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wconversion -Wshadow -Wnon-virtual-dtor)
+  if(OXECAD_WARNINGS_AS_ERRORS)
+    target_compile_options(${target} PRIVATE -Werror)
+  endif()
+  if(OXECAD_SANITIZE)
+    target_compile_options(${target} PRIVATE
+      -fsanitize=${OXECAD_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(${target} PRIVATE -fsanitize=${OXECAD_SANITIZE})
+  endif()
+endfunction()
+
+# oxecad_suite_library(NAME SOURCE...): one stand-in library of the closed suite, lib<NAME>.so, its headers included as
+# <NAME/...>.
+function(oxecad_suite_library name)
+  add_library(${name} SHARED ${ARGN})
+  add_library(oxecad::${name} ALIAS ${name})
+  oxecad_own(${name})
+  set_target_properties(${name} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+  target_include_directories(${name} PUBLIC
+    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/platform> $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+  target_compile_definitions(${name} PRIVATE OXECAD_PLATFORM_BUILD)
+endfunction()
+
+# oxecad_test(NAME SOURCES FILE... LIBRARIES TARGET... [PREFIX TEXT]): one test program; each of its cases is a test of
+# its own and runs in a process of its own.
+function(oxecad_test name)
+  cmake_parse_arguments(arg "" "PREFIX" "SOURCES;LIBRARIES" ${ARGN})
+  add_executable(${name} ${arg_SOURCES})
+  oxecad_own(${name})
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+  target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} GTest::gtest_main)
+  if(NOT arg_PREFIX)
+    set(arg_PREFIX "${name}.")
+  endif()
+  gtest_discover_tests(${name} TEST_PREFIX "${arg_PREFIX}" DISCOVERY_TIMEOUT 120 DISCOVERY_MODE PRE_TEST
+    PROPERTIES TIMEOUT 300 ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
+endfunction()
