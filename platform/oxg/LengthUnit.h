@@ -1,0 +1,33 @@
+/// \file
+/// Units of length and the conversion between them.
+#ifndef OXECAD_OXG_LENGTHUNIT_H
+#define OXECAD_OXG_LENGTHUNIT_H
+
+#include <oxkutils/Export.h>
+
+namespace oxg {
+
+/// Converts lengths, and powers of lengths, between units.
+class OXECAD_PLATFORM_EXPORT LengthUnit {
+ public:
+  /// The codes of the units.
+  enum Code : unsigned char {
+    Millimetre = 0,
+    Micrometre = 1,
+    Inch = 2,  ///< 25.4 mm
+    Mil = 3,   ///< a thousandth of an inch
+    Nanometre = 4,
+    Centimetre = 5,
+    Metre = 6
+  };
+
+  /// Converts a value from one unit to another. `exponent` is the power of the length that the value measures: 1 a
+  /// length, 2 an area, -1 something per length; 0 changes nothing. The factors are exact fractions, so that one step
+  /// of rounding is all that a factor or a divisor that is whole costs, and two otherwise. The same code twice gives
+  /// exactly `value`. An unknown code has no factor: the result is not a number. Infinities stay infinite.
+  static double Convert(unsigned char from, unsigned char to, double value, int exponent);
+};
+
+}  // namespace oxg
+
+#endif

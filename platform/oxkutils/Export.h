@@ -1,0 +1,12 @@
+/// \file
+/// Marks what leaves the shared libraries of the platform. Everything else stays hidden.
+#ifndef OXECAD_OXKUTILS_EXPORT_H
+#define OXECAD_OXKUTILS_EXPORT_H
+
+#if defined(__GNUC__)
+#define OXECAD_PLATFORM_EXPORT __attribute__((visibility("default")))
+#else
+#define OXECAD_PLATFORM_EXPORT
+#endif
+
+#endif

@@ -1,0 +1,38 @@
+/// \file
+/// The base of objects that count their references themselves.
+#ifndef OXECAD_OXKUTILS_REFCOUNTED_H
+#define OXECAD_OXKUTILS_REFCOUNTED_H
+
+#include <atomic>
+
+#include <oxkutils/Export.h>
+
+namespace oxkutils {
+
+/// An object with a reference count, usually held through `SmartPtr`. The count belongs to the object and not to its
+/// value: a new object and a copy start at 0, and assignment leaves both counts alone. Counting is safe from several
+/// threads; the object itself is as safe as its class makes it.
+class OXECAD_PLATFORM_EXPORT RefCounted {
+ public:
+  RefCounted() noexcept;
+  RefCounted(const RefCounted&) noexcept;
+  RefCounted& operator=(const RefCounted&) noexcept;
+  virtual ~RefCounted();
+
+  /// Called when the last reference goes. True, as here, lets the object be deleted; false keeps it, with a count of 0,
+  /// for an owner of another kind. It must not take a reference to the object and drop it again.
+  virtual bool ZeroReferenceCountHook();
+
+  void AddReference() const noexcept;
+  /// Drops one reference that `AddReference` took. With the last one, and the hook's consent, the object is deleted; it
+  /// must then have been made with `new`.
+  void RemoveReference() const;
+  long GetReferenceCount() const noexcept;
+
+ private:
+  mutable std::atomic<long> m_references{0};
+};
+
+}  // namespace oxkutils
+
+#endif
