@@ -1,0 +1,72 @@
+/// \file
+/// A dialog or panel with its components.
+#ifndef OXECAD_UIOX_DEVICE_H
+#define OXECAD_UIOX_DEVICE_H
+
+#include <uiox/Export.h>
+#include <uiox/TreeWidget.h>
+#include <uiox/Widget.h>
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace uiox {
+
+class Suite;
+
+/// A device is a component too: on the wire it is the component of its own name.
+class OXECAD_UIOX_API Device : public Widget {
+ public:
+  Device(Suite& suite, std::string name, std::string resource);
+  ~Device() override;
+
+  /// Whose device it is.
+  Suite& Host() const { return suite_; }
+  /// The resource that it was made from.
+  const std::string& Resource() const { return resource_; }
+  /// The component, the device itself, or a cell control of that name; null when there is none. Constant time.
+  Widget* Find(std::string_view name) const;
+  /// The tree of that name or null.
+  TreeWidget* FindTree(std::string_view name) const;
+  /// Adds a component at the end of a panel (null: of the device itself); null when the name is empty or in use.
+  Widget* Add(WidgetClass widget_class, std::string_view name, Widget* panel = nullptr);
+  TreeWidget* AddTree(std::string_view name, TreeStyle style, Widget* panel = nullptr);
+  /// All components but the device and the cell controls, in the order of the resource.
+  const std::vector<Widget*>& Components() const;
+
+  bool OnScreen() const { return on_screen_; }
+  void Show();
+  void Hide();
+  /// Lays the components out below and beside each other, each as large as its class and texts want it; the same
+  /// everywhere.
+  void UpdateLayout();
+  /// A modal run of it is under way.
+  bool InModalRun() const;
+
+  /// Attributes 29 and 234: a component's name, or empty. Refused for a name that is no component.
+  const std::string& Focus() const { return focus_; }
+  bool SetFocus(std::string_view component);
+  const std::string& DefaultButton() const { return default_button_; }
+  bool SetDefaultButton(std::string_view component);
+
+ private:
+  friend class TreeWidget;
+  friend class ResourceLoader;
+  class Index;
+  Widget* Adopt(std::unique_ptr<Widget> widget, Widget* panel);
+
+  Suite& suite_;
+  std::string resource_;
+  std::string focus_;
+  std::string default_button_;
+  bool on_screen_ = false;
+  std::vector<std::unique_ptr<Widget>> owned_;
+  std::vector<Widget*> components_;
+  std::unique_ptr<Index> index_;
+};
+
+}  // namespace uiox
+
+#endif

@@ -1,0 +1,8 @@
+/// \file
+/// Marks what leaves libuiox.so. Everything else stays hidden.
+#ifndef OXECAD_UIOX_EXPORT_H
+#define OXECAD_UIOX_EXPORT_H
+
+#define OXECAD_UIOX_API __attribute__((visibility("default")))
+
+#endif

@@ -1,0 +1,94 @@
+/// \file
+/// A tree as a component: its nodes, its columns, the cell controls and what happened last.
+#ifndef OXECAD_UIOX_TREEWIDGET_H
+#define OXECAD_UIOX_TREEWIDGET_H
+
+#include <uiox/Export.h>
+#include <uiox/TreeStore.h>
+#include <uiox/Widget.h>
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace uiox {
+
+/// A column as the resource describes it.
+struct Column {
+  std::string name;
+  std::wstring title;
+  bool markup = true;  ///< whether its texts are markup or plain
+  int width = 0;       ///< in pixels; 0: as wide as it needs to be
+};
+
+enum class SelectionMode : std::uint8_t { None, Single, Multiple };
+
+/// How a tree looks and behaves, from its resource.
+struct TreeStyle {
+  /// The column of the nodes' labels. Its name is not used on the wire.
+  Column label_column;
+  /// The columns of the cells.
+  std::vector<Column> columns;
+  bool check_boxes = false;
+  bool root_shown = true;  ///< whether top-level nodes are shown or only what is below them
+  bool header_shown = false;
+  SelectionMode selection = SelectionMode::Multiple;
+};
+
+class OXECAD_UIOX_API TreeWidget : public Widget {
+ public:
+  TreeWidget(Device& device, std::string name, TreeStyle style);
+  ~TreeWidget() override;
+
+  TreeStore& Store() { return store_; }
+  const TreeStore& Store() const { return store_; }
+  const TreeStyle& Style() const { return style_; }
+  /// `kNoColumn` for a name that is no column.
+  ColumnIndex FindColumn(std::string_view name) const;
+
+  /// Attributes 53, 175 and 346; `kNoNode` when there is none or it has been removed.
+  NodeId ActivatedNode() const;
+  NodeId ToggledNode() const;
+  NodeId CheckedNode() const;
+  void SetActivatedNode(NodeId node);
+  void SetToggledNode(NodeId node);
+  void SetCheckedNode(NodeId node);
+  /// Attribute 267; 2: one node at a time.
+  int SelectionKind() const { return selection_kind_; }
+  void SetSelectionKind(int kind) { selection_kind_ = kind; }
+  /// Attributes 232 and 233.
+  CellPlace SelectedCell() const;
+  void SetSelectedCell(CellPlace cell);
+
+  /// Makes a cell control, or null: the class is neither CheckButton nor OptionMenu, or the device has a component of
+  /// the name.
+  Widget* CreateControl(std::string_view name, WidgetClass widget_class);
+  /// Takes it out of its cell and ends it, with its callbacks.
+  bool DestroyControl(std::string_view name);
+  /// Null for `kNoControl`.
+  Widget* FindControl(ControlId control) const;
+  /// The control in a cell, or null.
+  Widget* ControlIn(CellPlace cell) const { return FindControl(store_.CellControl(cell)); }
+  /// All cell controls, in no particular order.
+  std::vector<Widget*> Controls() const;
+
+ private:
+  class Follower;
+  void Forget(NodeId node);
+
+  TreeStyle style_;
+  TreeStore store_;
+  NodeId activated_ = kNoNode;
+  NodeId toggled_ = kNoNode;
+  NodeId checked_ = kNoNode;
+  CellPlace selected_cell_;
+  int selection_kind_ = 0;
+  std::vector<std::unique_ptr<Widget>> controls_;  // by id - 1; null: free
+  std::vector<ControlId> free_controls_;
+  std::unique_ptr<Follower> follower_;
+};
+
+}  // namespace uiox
+
+#endif
