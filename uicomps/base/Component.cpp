@@ -1,0 +1,11 @@
+#include <uicomps/base/Component.h>
+
+#include <uicomps/base/Text.h>
+
+namespace oxecad_ui {
+
+Component::Component(const char* device, const char* name) : m_device(TextOrEmpty(device)), m_name(TextOrEmpty(name)) {}
+
+Component::~Component() = default;
+
+}  // namespace oxecad_ui

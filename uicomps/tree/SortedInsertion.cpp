@@ -1,0 +1,140 @@
+#include <algorithm>
+#include <cstdio>
+#include <string>
+
+#include <uicomps/base/Text.h>
+#include <uicomps/tree/SortedNames.h>
+#include <uicomps/tree/Tree.h>
+
+namespace oxecad_ui {
+
+namespace {
+
+using PlainLabelOrder = Tree::NodeInfoLabelComperator<CAlphaNumericWStringComparator>;
+using EcadLabelOrder = Tree::NodeInfoLabelComperator<CAlphaNumericWStringEcadComparator>;
+
+/// A child that cannot be read so many times in a row will never be.
+constexpr int kMostFailedReads = 10000;
+
+void SayNotSupported() { std::fputs("Not supported type..\n", stdout); }
+
+/// The component name of the tree that filled its memory of inserted names last; empty and unset until one did. It is the
+/// name and not a pointer to it, because the tree may be gone by now.
+struct CacheOwner {
+  bool isSet = false;
+  std::string name;
+};
+
+CacheOwner& TheCacheOwner() {
+  static CacheOwner owner;
+  return owner;
+}
+
+}  // namespace
+
+const CComparator<Tree::NodeInfo>* Tree::GenerateComperatorByType(NodeComparableType type) {
+  if (type == ByLabel) return new PlainLabelOrder;
+  SayNotSupported();
+  return nullptr;
+}
+
+const CComparator<Tree::NodeInfo>* Tree::GenerateEcadComperatorByType(NodeComparableType type) {
+  if (type == ByLabel) return new EcadLabelOrder;
+  SayNotSupported();
+  return nullptr;
+}
+
+template <class NameAt>
+int Tree::SearchPlace(int count, NameAt nameAt, const CComparator<NodeInfo>& comparator, const NodeInfo& node) const {
+  int low = 0;
+  int high = count - 1;
+  int failedReads = 0;
+  while (low <= high) {
+    const int middle = low + (high - low) / 2;
+    NodeInfo record;
+    if (!GetNodeInfo(nameAt(middle), record)) {
+      if (++failedReads == kMostFailedReads) return count;
+      continue;
+    }
+    failedReads = 0;
+    const bool less = comparator.IsAscending() ? comparator.Compare(record, node) : comparator.Compare(node, record);
+    if (less) {
+      low = middle + 1;
+    } else {
+      high = middle - 1;
+    }
+  }
+  return low;
+}
+
+int Tree::BinarySearchNodeLocation(std::vector<std::string>& children, const CComparator<NodeInfo>* cmp,
+                                   NodeInfo& node) {
+  const auto nameAt = [&](int index) { return children[static_cast<std::size_t>(index)].c_str(); };
+  return SearchPlace(static_cast<int>(children.size()), nameAt, *cmp, node);
+}
+
+void Tree::ClaimCache(const char* parent) {
+  CacheOwner& owner = TheCacheOwner();
+  if (!owner.isSet) {
+    owner = {true, GetName()};
+  } else if (parent == nullptr || owner.name != GetName()) {
+    m_childNames.clear();
+    owner.name = GetName();
+  }
+}
+
+SortedNames* Tree::CachedChildren(const char* parent, const std::string& name) {
+  if (parent == nullptr) return nullptr;
+  const auto found = m_childNames.find(parent);
+  if (found != m_childNames.end()) return found->second.get();
+  if (name.empty()) return nullptr;
+  return m_childNames.emplace(parent, std::make_unique<SortedNames>()).first->second.get();
+}
+
+int Tree::FindPlace(const SortedNames& children, NodeComparableType order, NodeInfo& node) const {
+  const int count = static_cast<int>(children.Size());
+  if (count == 0) return count;
+  if (order != ByLabel) {
+    SayNotSupported();
+    return count;
+  }
+  const auto nameAt = [&](int index) { return children.At(static_cast<std::size_t>(index)).c_str(); };
+  return SearchPlace(count, nameAt, EcadLabelOrder(), node);
+}
+
+bool Tree::AddEcadNode(const char* name, const wchar_t* label, const char* parent, NodeComparableType order,
+                       const char* type, const wchar_t* text2, int i1, int i2, int i3, void* data) {
+  NodeInfo node;
+  node.name = TextOrEmpty(name);
+  node.label = TextOrEmpty(label);
+  node.expanded = true;
+
+  ClaimCache(parent);
+  SortedNames* const children = CachedChildren(parent, node.name);
+  const std::size_t place = children != nullptr ? static_cast<std::size_t>(FindPlace(*children, order, node)) : 0;
+  const bool atEnd = children == nullptr || place == children->Size();
+  const char* const before = atEnd ? nullptr : children->At(place).c_str();
+  const bool added = BaseTree::AddNodeBefore(name, label, parent, before, type, text2, i1, i2, i3, data);
+  if (added && children != nullptr) children->Insert(place, std::move(node.name));
+  return added;
+}
+
+bool Tree::SortNodesByType(const char* node, NodeComparableType order) {
+  std::vector<NodeInfo> children;
+  if (!GetChildren(node, children)) return false;
+  SortChildrenByType(children, order);
+  for (const NodeInfo& child : children) MoveNodeBefore(child.name.c_str(), node, nullptr);
+  return true;
+}
+
+void Tree::SortChildrenByType(std::vector<NodeInfo>& children, NodeComparableType order) {
+  if (order != ByLabel) {
+    SayNotSupported();
+    return;
+  }
+  const PlainLabelOrder before;
+  std::sort(children.begin(), children.end(),
+            [&](const NodeInfo& a, const NodeInfo& b) { return before.Compare(a, b); });
+}
+
+}  // namespace oxecad_ui
