@@ -98,26 +98,6 @@ struct Polygon {
   std::vector<std::uint32_t> arcs;  ///< ascending
 };
 
-enum class PadShape : std::uint8_t { Circle, Rect, Oval, Trapezoid, RoundRect, Custom };
-enum class PadType : std::uint8_t { Smd, ThroughHole, NonPlatedHole, Connector };
-
-struct Pad {
-  std::string number;  ///< "1", "A12"; empty for a pad without one
-  ComponentId component = kNoComponent;
-  NetId net = kNoNet;
-  Point position;  ///< on the board, of the hole where there is one
-  Point offset;    ///< from the position to the middle of the copper, already turned
-  Size size;       ///< before it is turned
-  Size drill;      ///< zero without a hole; both equal for a round one
-  Size delta;      ///< of a trapezoid
-  MicroDegrees rotation = 0;
-  std::int32_t roundRatioMillionths = 0;  ///< radius of a rounded corner, as a share of the shorter side
-  PadShape shape = PadShape::Rect;
-  PadType type = PadType::Smd;
-  LayerSet layers;
-  std::vector<Polygon> primitives;  ///< filled polygons of a custom pad, on the board
-};
-
 /// A straight piece of track or, with `arc`, one through three points.
 struct Track {
   Point start;
@@ -169,6 +149,26 @@ struct Drawing {
   /// Curve: the four points of a cubic Bezier. Polygon: unused.
   std::array<Point, 4> points{};
   Polygon polygon;  ///< Polygon only
+};
+
+enum class PadShape : std::uint8_t { Circle, Rect, Oval, Trapezoid, RoundRect, Custom };
+enum class PadType : std::uint8_t { Smd, ThroughHole, NonPlatedHole, Connector };
+
+struct Pad {
+  std::string number;  ///< "1", "A12"; empty for a pad without one
+  ComponentId component = kNoComponent;
+  NetId net = kNoNet;
+  Point position;  ///< on the board, of the hole where there is one
+  Point offset;    ///< from the position to the middle of the copper, already turned
+  Size size;       ///< before it is turned
+  Size drill;      ///< zero without a hole; both equal for a round one
+  Size delta;      ///< of a trapezoid
+  MicroDegrees rotation = 0;
+  std::int32_t roundRatioMillionths = 0;  ///< radius of a rounded corner, as a share of the shorter side
+  PadShape shape = PadShape::Rect;
+  PadType type = PadType::Smd;
+  LayerSet layers;
+  std::vector<Drawing> primitives;  ///< further copper of a custom pad, on the board; their layer is not set
 };
 
 /// A board as the file has it: plain values, no reference to the file.
