@@ -1,0 +1,8 @@
+/// \file
+/// Marks what leaves libuiox_qt.so. Everything else stays hidden.
+#ifndef OXECAD_UIOX_QT_EXPORT_H
+#define OXECAD_UIOX_QT_EXPORT_H
+
+#define OXECAD_UIOX_QT_API __attribute__((visibility("default")))
+
+#endif

@@ -1,0 +1,29 @@
+/// \file
+/// The suite's images for Qt.
+#ifndef OXECAD_UIOX_QT_ICONS_H
+#define OXECAD_UIOX_QT_ICONS_H
+
+#include <uiox_qt/Export.h>
+
+#include <QIcon>
+#include <QPixmap>
+#include <QSize>
+
+#include <string_view>
+
+namespace uiox_qt {
+
+/// The side of icons in trees, menus and buttons, in device-independent pixels.
+constexpr int kIconSide = 16;
+
+/// An image by its name, for `side` device-independent pixels on a device with `ratio` pixels to each; null when there
+/// is no such image. The images that come with the toolkit are drawn for that size; others keep their pixels' edges
+/// when they are enlarged.
+OXECAD_UIOX_QT_API QPixmap ImagePixmap(std::string_view name, int side, qreal ratio);
+
+/// An icon of an image; null icon when there is no such image. It is drawn for each size and device anew.
+OXECAD_UIOX_QT_API QIcon ImageIcon(std::string_view name);
+
+}  // namespace uiox_qt
+
+#endif

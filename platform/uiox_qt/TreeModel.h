@@ -1,0 +1,89 @@
+/// \file
+/// A tree of the toolkit as a Qt item model.
+#ifndef OXECAD_UIOX_QT_TREEMODEL_H
+#define OXECAD_UIOX_QT_TREEMODEL_H
+
+#include <uiox/NodeId.h>
+#include <uiox/Observer.h>
+#include <uiox/TreeWidget.h>
+#include <uiox_qt/Export.h>
+
+#include <QAbstractItemModel>
+
+#include <memory>
+#include <vector>
+
+namespace uiox_qt {
+
+/// Reads a tree's store: there is no second copy of the nodes. An index carries the node's id; column 0 shows the
+/// labels, column n the cells of the tree's column n - 1. Rows are found in the store, in logarithmic time.
+///
+/// Additions, removals and moves are told one by one. While the tree's redraw is off (attribute 52), the first few are
+/// told as well; after that the model empties itself and, when redraw is on again, comes back with one reset. Changes
+/// of labels, states and cells are collected and told when control returns to the event loop, many at once as few
+/// ranges; what `data` gives is always the store's present state.
+///
+/// The model changes nothing in the tree. Edits are the view's matter (TreeView.h).
+class OXECAD_UIOX_QT_API TreeModel final : public QAbstractItemModel, private uiox::TreeObserver {
+ public:
+  enum Role {
+    NodeRole = Qt::UserRole,  ///< the node's id (quint32)
+    NameRole,                 ///< the node's name
+    MarkupRole                ///< the label or cell as it was set
+  };
+
+  explicit TreeModel(uiox::TreeWidget& tree, QObject* parent = nullptr);
+  ~TreeModel() override;
+
+  /// Null after the tree has ended; the model is empty then.
+  uiox::TreeWidget* Tree() const { return tree_; }
+  /// The tree ends: the model empties itself for good.
+  void Detach();
+
+  /// `kTop` for the invalid index.
+  uiox::NodeId NodeOf(const QModelIndex& index) const;
+  /// Invalid for `kTop`, and for a node that the model does not show.
+  QModelIndex IndexOf(uiox::NodeId node, int column = 0) const;
+  /// The cell that an index of column 1 or more stands for.
+  uiox::CellPlace CellOf(const QModelIndex& index) const;
+  QModelIndex IndexOf(uiox::CellPlace cell) const { return IndexOf(cell.node, cell.column + 1); }
+  /// The column's description: of the labels for 0.
+  const uiox::Column& ColumnAt(int column) const;
+
+  /// Tells collected changes now.
+  void Flush();
+  /// While redraw is off and much changed: the model is empty.
+  bool IsSuspended() const;
+
+  // QAbstractItemModel
+  QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
+  QModelIndex parent(const QModelIndex& child) const override;
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& parent = {}) const override;
+  bool hasChildren(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+  Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+ private:
+  class Changes;
+
+  void AboutToAdd(uiox::NodeId parent, std::uint32_t row) override;
+  void Added(uiox::NodeId node, uiox::NodeId parent, std::uint32_t row) override;
+  void AboutToRemove(uiox::NodeId node, uiox::NodeId parent, std::uint32_t row) override;
+  void Removed(uiox::NodeId parent, std::uint32_t row) override;
+  void AboutToMove(uiox::NodeId node, uiox::NodeId from, std::uint32_t row, uiox::NodeId to,
+                   std::uint32_t to_row) override;
+  void Moved(uiox::NodeId node, uiox::NodeId from, uiox::NodeId to, std::uint32_t row) override;
+  void NodeChanged(uiox::NodeId node, uiox::NodeChanges changes) override;
+  void CellChanged(uiox::CellPlace cell) override;
+  void CellControlChanged(uiox::CellPlace cell, uiox::ControlId control) override;
+  void ControlChanged(uiox::CellPlace cell, uiox::ControlId control) override;
+
+  uiox::TreeWidget* tree_;
+  std::unique_ptr<Changes> changes_;
+};
+
+}  // namespace uiox_qt
+
+#endif
