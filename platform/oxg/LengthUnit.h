@@ -22,9 +22,9 @@ class OXECAD_PLATFORM_EXPORT LengthUnit {
   };
 
   /// Converts a value from one unit to another. `exponent` is the power of the length that the value measures: 1 a
-  /// length, 2 an area, -1 something per length; 0 changes nothing. The factors are exact fractions, so that one step
-  /// of rounding is all that a factor or a divisor that is whole costs, and two otherwise. The same code twice gives
-  /// exactly `value`. An unknown code has no factor: the result is not a number. Infinities stay infinite.
+  /// length, 2 an area, -1 something per length; 0 changes nothing. The factors are exact fractions, so that a
+  /// conversion rounds twice at most: 25.4 mm are exactly 1 inch, 1 inch exactly 1000 mil. The same code twice gives
+  /// exactly `value`. An unknown code has no factor, and the result is not a number. Infinities stay infinite.
   static double Convert(unsigned char from, unsigned char to, double value, int exponent);
 };
 

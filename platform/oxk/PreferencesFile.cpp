@@ -27,9 +27,15 @@ void Report(const std::string& path, const std::string& what) {
 
 /// The object in a file's text, or the reason why there is none.
 std::optional<nlohmann::json> Parse(const std::string& text, std::string& reason) {
+  if (const std::size_t zero = text.find('\0'); zero != std::string::npos) {  // would count as the end of the text
+    reason = "not valid JSON: a zero byte at offset " + std::to_string(zero);
+    return std::nullopt;
+  }
   bool tooDeep = false;
-  const auto watchDepth = [&tooDeep](int depth, nlohmann::json::parse_event_t, nlohmann::json&) {
-    tooDeep = tooDeep || depth > kDeepestNesting;
+  const auto watchDepth = [&tooDeep](int outerLevels, nlohmann::json::parse_event_t event, nlohmann::json&) {
+    using Event = nlohmann::json::parse_event_t;
+    const bool opens = event == Event::object_start || event == Event::array_start;
+    tooDeep = tooDeep || (opens && outerLevels >= kDeepestNesting);
     return !tooDeep;
   };
   try {
@@ -42,7 +48,8 @@ std::optional<nlohmann::json> Parse(const std::string& text, std::string& reason
       return values;
     }
   } catch (const nlohmann::json::exception& error) {
-    reason = error.what();
+    const std::string what = error.what();  // "[the exception's name] what is wrong and where"
+    reason = "not valid JSON: " + what.substr(what.find("] ") + 2);
   }
   return std::nullopt;
 }
@@ -80,15 +87,18 @@ nlohmann::json PreferencesFile::Load() {
 }
 
 bool PreferencesFile::KeepDamaged(const std::string& reason) {
+  int error = 0;
   for (int number = 1; number <= kMostDamagedFiles; ++number) {
     const std::string kept = m_path + ".damaged-" + std::to_string(number);
     if (m_operations->RenameToNew(m_path, kept) == 0) {
       Report(m_path, reason + "; kept as " + kept);
       return true;
     }
-    if (errno != EEXIST) break;
+    error = errno;
+    if (error == ENOENT) return true;  // gone by now: nothing can be lost
+    if (error != EEXIST) break;
   }
-  Report(m_path, reason + "; cannot be kept under another name: " + ErrorText(errno) + "; preferences are not saved");
+  Report(m_path, reason + "; cannot be kept under another name: " + ErrorText(error) + "; preferences are not saved");
   return false;
 }
 

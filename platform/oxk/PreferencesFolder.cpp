@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <cstdlib>
+#include <filesystem>
 #include <vector>
 
 #include <oxk/PreferencesStore.h>
@@ -33,7 +34,8 @@ std::string UserPreferencesFolder() {
 }
 
 void UsePreferencesFolder(const std::string& folder, FileOperations& operations) {
-  PreferencesStore::Get().Use(folder, operations);
+  PreferencesStore::Get().Use(folder.empty() ? UserPreferencesFolder() : std::filesystem::absolute(folder).string(),
+                              operations);
 }
 
 }  // namespace oxk

@@ -22,7 +22,7 @@ PreferencesStore& PreferencesStore::Get() {
 
 void PreferencesStore::Use(const std::string& folder, FileOperations& operations) {
   const std::lock_guard<std::mutex> lock(m_mutex);
-  m_file = PreferencesFile(folder.empty() ? UserPreferencesFolder() : folder, operations);
+  m_file = PreferencesFile(folder, operations);
   m_values.reset();
 }
 

@@ -18,6 +18,7 @@ class PreferencesStore {
   /// The one of this process; it is never destroyed.
   static PreferencesStore& Get();
 
+  /// Forgets the values. An empty folder: they are kept in memory alone.
   void Use(const std::string& folder, FileOperations& operations);
   std::optional<std::string> Read(const std::string& key);
   /// Gives the former value.

@@ -50,6 +50,9 @@ class SmartPtr {
   }
   explicit operator bool() const noexcept { return m_object != nullptr; }
 
+  friend bool operator==(const SmartPtr& a, const T* b) noexcept { return a.m_object == b; }
+  friend bool operator!=(const SmartPtr& a, const T* b) noexcept { return a.m_object != b; }
+
  private:
   template <class U>
   friend class SmartPtr;
@@ -70,14 +73,6 @@ bool operator==(const SmartPtr<T>& a, const SmartPtr<U>& b) noexcept {
 template <class T, class U>
 bool operator!=(const SmartPtr<T>& a, const SmartPtr<U>& b) noexcept {
   return a.get() != b.get();
-}
-template <class T>
-bool operator==(const SmartPtr<T>& a, const T* b) noexcept {
-  return a.get() == b;
-}
-template <class T>
-bool operator!=(const SmartPtr<T>& a, const T* b) noexcept {
-  return a.get() != b;
 }
 /// By address: a strict order for ordered containers.
 template <class T>
