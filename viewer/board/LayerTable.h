@@ -3,9 +3,10 @@
 
 #include <viewer/board/Board.h>
 
+#include <functional>
+#include <map>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace oxviewer {
@@ -40,13 +41,8 @@ class LayerTable {
   bool Insert(std::string_view name, LayerSet& layers);
   bool ExpandKind(std::string_view suffix, LayerSet& layers);
 
-  struct TextHash {
-    using is_transparent = void;
-    std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>{}(text); }
-  };
-
   std::vector<Layer> layers_;
-  std::unordered_map<std::string, LayerId, TextHash, std::equal_to<>> byName_;
+  std::map<std::string, LayerId, std::less<>> byName_;
 };
 
 }  // namespace oxviewer

@@ -39,7 +39,7 @@ void NetClassTable::Apply(Board& board) const {
 
 std::size_t NetClassTable::Apply(Board& board, std::uint64_t steps) const {
   std::vector<NetClass> classes{{kDefaultName}};
-  std::unordered_map<std::string, NetClassId> ids{{kDefaultName, 0}};
+  std::map<std::string, NetClassId> ids{{kDefaultName, 0}};
   for (const std::string& name : classes_) {
     if (ids.emplace(name, static_cast<NetClassId>(classes.size())).second) classes.push_back({name});
   }

@@ -4,9 +4,9 @@
 #include <viewer/board/Board.h>
 
 #include <cstdint>
+#include <map>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace oxviewer {
@@ -43,7 +43,7 @@ class NetClassTable {
   };
 
   std::vector<std::string> classes_;
-  std::unordered_map<std::string, std::string> assignments_;
+  std::map<std::string, std::string> assignments_;
   std::vector<Pattern> patterns_;
 };
 

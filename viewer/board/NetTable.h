@@ -4,9 +4,9 @@
 #include <viewer/board/Board.h>
 
 #include <cstdint>
+#include <map>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace oxviewer {
@@ -33,10 +33,6 @@ class NetTable {
   std::vector<Net> Finish(std::vector<NetId>& finalIds);
 
  private:
-  struct TextHash {
-    using is_transparent = void;
-    std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>{}(text); }
-  };
   struct Entry {
     std::string name;         // empty as long as only the number is known
     std::int64_t number = 0;  // of an entry that began without a name
@@ -47,8 +43,9 @@ class NetTable {
   NetId Add(Entry entry);
 
   std::vector<Entry> entries_;
-  std::unordered_map<std::string, NetId, TextHash, std::equal_to<>> byName_;
-  std::unordered_map<std::int64_t, NetId> byNumber_;
+  // Ordered, so that no choice of names or numbers in a file makes a search slow.
+  std::map<std::string, NetId, std::less<>> byName_;
+  std::map<std::int64_t, NetId> byNumber_;
 };
 
 }  // namespace oxviewer

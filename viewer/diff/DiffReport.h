@@ -1,0 +1,28 @@
+#ifndef OXECAD_VIEWER_DIFF_DIFFREPORT_H
+#define OXECAD_VIEWER_DIFF_DIFFREPORT_H
+
+#include <viewer/board/Result.h>
+#include <viewer/diff/BoardDiff.h>
+
+#include <optional>
+#include <string>
+
+namespace oxviewer {
+
+/// The comparison as a JSON text in UTF-8, its keys in a fixed order:
+///
+///     {"a": nameA, "b": nameB, "equal": bool,
+///      "layers": {"onlyA": [name...], "onlyB": [name...],
+///                 "changed": [{"name": ..., "findings": [...]}...], "equal": count},
+///      "components": {the same}, "nets": {the same, "renamed": [{"a": name, "b": name}...]}}
+///
+/// Bytes of names that are no UTF-8 become U+FFFD.
+std::string ReportText(const BoardDiff& diff, const std::string& nameA, const std::string& nameB);
+
+/// Writes a text to a file: the file holds either all of it or what it held before. A device or pipe is written to as
+/// it is. Returns the error when that fails.
+std::optional<ReadError> WriteReport(const std::string& path, const std::string& text);
+
+}  // namespace oxviewer
+
+#endif  // OXECAD_VIEWER_DIFF_DIFFREPORT_H

@@ -1,0 +1,102 @@
+#include <viewer/diff/DiffReport.h>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+namespace oxviewer {
+
+namespace {
+
+// Not strerror: its text follows the locale.
+std::string Reason(int error) {
+  switch (error) {
+    case ENOENT:
+    case ENOTDIR:
+      return "there is no such folder";
+    case EACCES:
+    case EPERM:
+      return "permission denied";
+    case EROFS:
+      return "the file system is read-only";
+    case EISDIR:
+      return "it is a directory";
+    case ENOSPC:
+    case EDQUOT:
+      return "no space is left";
+    case EFBIG:
+      return "the file would be too large";
+    case ENAMETOOLONG:
+      return "the name is too long";
+    default:
+      return "system error " + std::to_string(error);
+  }
+}
+
+ReadError Unwritable(const std::string& path, int error) {
+  return {path, 0, 0, "expected a writable file: " + Reason(error)};
+}
+
+// 0, or the error number. Closes `fd` in any case.
+int WriteAndClose(int fd, const std::string& text, bool flush) {
+  std::size_t written = 0;
+  int error = 0;
+  while (error == 0 && written < text.size()) {
+    const ssize_t count = ::write(fd, text.data() + written, text.size() - written);
+    if (count >= 0) {
+      written += static_cast<std::size_t>(count);
+    } else if (errno != EINTR) {
+      error = errno;
+    }
+  }
+  if (error == 0 && flush && ::fsync(fd) != 0) error = errno;
+  if (::close(fd) != 0 && error == 0) error = errno;
+  return error;
+}
+
+// A link is written through, so that it stays one.
+std::string FollowedLinks(const std::string& path) {
+  const std::unique_ptr<char, void (*)(void*)> real(::realpath(path.c_str(), nullptr), std::free);
+  return real ? std::string(real.get()) : path;
+}
+
+int WriteInPlace(const std::string& path, const std::string& text) {
+  const int fd = ::open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY);
+  return fd < 0 ? errno : WriteAndClose(fd, text, false);
+}
+
+int WriteBeside(const std::string& path, const std::string& text, mode_t mode) {
+  const std::string besides = path + ".new-" + std::to_string(::getpid());
+  const int fd = ::open(besides.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+  if (fd < 0) return errno;
+  int error = WriteAndClose(fd, text, true);
+  if (error == 0 && std::rename(besides.c_str(), path.c_str()) != 0) error = errno;
+  if (error != 0) ::unlink(besides.c_str());
+  return error;
+}
+
+}  // namespace
+
+std::optional<ReadError> WriteReport(const std::string& path, const std::string& text) {
+  struct stat status {};
+  const bool exists = ::stat(path.c_str(), &status) == 0;
+  int error = 0;
+  if (exists && S_ISDIR(status.st_mode)) {
+    error = EISDIR;
+  } else if (exists && !S_ISREG(status.st_mode)) {
+    error = WriteInPlace(path, text);
+  } else if (exists && ::access(path.c_str(), W_OK) != 0) {
+    error = errno;
+  } else {
+    error = WriteBeside(FollowedLinks(path), text, exists ? status.st_mode & 0777 : mode_t{0666});
+  }
+  if (error == 0) return std::nullopt;
+  return Unwritable(path, error);
+}
+
+}  // namespace oxviewer
