@@ -131,10 +131,11 @@ std::string PointerNames::Of(ui_callback callback) {
   if (!callback) return "null";
   const auto known = callbacks_.find(callback);
   if (known != callbacks_.end()) return known->second;
-  return callbacks_[callback] = "f" + std::to_string(callbacks_.size());
+  return callbacks_[callback] = "f" + std::to_string(++next_callback_);
 }
 
-CallText::CallText(const uiox::Call& call, PointerNames& names) : call_(call), names_(names) {
+CallText::CallText(const uiox::Call& call, PointerNames& names, bool readable)
+    : call_(call), names_(names), readable_(readable) {
   WriteHead();
   WritePositional();
   WriteOptions();
@@ -220,7 +221,9 @@ void CallText::WriteOptions() {
     for (const uiox::Option& option : call_) {
       Text(' ' + std::to_string(option.code) + ' ');
       const auto deref = [](uiox::Slot s) { return s.Pointer() ? *s.Out<std::intptr_t>() : 0; };
-      if (option.shape == 'l') {
+      if (!readable_) {
+        Text("!not-handed-out");
+      } else if (option.shape == 'l') {
         Text(List(option.value.Int(), uiox::Slot{deref(option.array)}.Names()));
       } else {
         Text(Given(option.shape, {deref(option.value)}, {}));

@@ -25,13 +25,15 @@ class PointerNames {
   std::map<const void*, std::string> pointers_;
   std::map<ui_callback, std::string> callbacks_;
   std::size_t next_ = 0;
+  std::size_t next_callback_ = 0;
 };
 
 /// Writes one call. What is given to the toolkit is written when this is made, before the toolkit can end the caller's
 /// texts; what the toolkit answered is written by `Finish`. The format is described in RecordingToolkit.h.
 class CallText {
  public:
-  CallText(const uiox::Call& call, PointerNames& names);
+  /// `readable`: whether the texts that the call gives may be followed; a release of what is gone says so instead.
+  CallText(const uiox::Call& call, PointerNames& names, bool readable = true);
 
   /// The line, with answers when the call succeeded.
   std::string Finish(int result);
@@ -60,6 +62,7 @@ class CallText {
 
   const uiox::Call& call_;
   PointerNames& names_;
+  const bool readable_;
   std::vector<Part> parts_;
   std::string explained_;
 };

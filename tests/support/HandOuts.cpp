@@ -17,6 +17,20 @@ void HandOuts::Enter(const uiox::Call& get_node) {
   }
 }
 
+bool HandOuts::IsReadable(const uiox::Call& free) const {
+  for (const uiox::Option& option : free) {
+    const bool list = option.shape == 'l';
+    const uiox::Slot place = list ? option.array : option.value;
+    if (!place.Pointer()) return false;
+    const void* const given = *place.Out<void*>();
+    if (!given) continue;
+    const auto entry = entries_.find(given);
+    const int count = list ? option.value.Int() : -1;
+    if (entry == entries_.end() || entry->second.count != count) return false;
+  }
+  return true;
+}
+
 std::string HandOuts::Return(const uiox::Call& free) {
   if (free.option_count != 1) return "a release names one attribute";
   const uiox::Option& option = free.options[0];

@@ -19,6 +19,8 @@ class HandOuts {
  public:
   /// Enters what a successful 2202 answered; nulls and a count that was asked for alone are nothing to release.
   void Enter(const uiox::Call& get_node);
+  /// Whether what a `ui_free` names may be read: null, or handed out with that count and not released.
+  bool IsReadable(const uiox::Call& free) const;
   /// Crosses out what a `ui_free` names. Gives what is wrong with it, or an empty text.
   std::string Return(const uiox::Call& free);
   /// What has not come back, one line each.

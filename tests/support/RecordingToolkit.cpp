@@ -99,7 +99,7 @@ void RecordingToolkit::FailNone() {
 int RecordingToolkit::Handle(uiox::Call& call) {
   ++call_count_;
   const bool goes_wrong = fail_all_ || call_count_ == failing_call_;
-  CallText text(call, names_);
+  CallText text(call, names_, call.function != Function::Free || hand_outs_.IsReadable(call));
   const bool written = !wanted_ || wanted_(call);
   const std::size_t place = lines_.size();
   if (written) {  // calls that callbacks make during this one come after it
