@@ -13,8 +13,9 @@ namespace oxecad_ui {
 /// Wraps one tree of the toolkit. Every node has a name that is unique in the tree; all operations address nodes by it.
 /// The toolkit owns the nodes: nothing is kept here, and each operation is a call to the toolkit.
 ///
-/// An operation that gives a `bool` says whether the toolkit accepted it. One that gives a value gives its default (0, an
-/// empty string, 0xFFFFFFFF for a colour) when the toolkit refuses. Labels are UTF-16 code units, one in each `wchar_t`.
+/// An operation that gives a `bool` says whether the toolkit accepted it. One that gives a value gives its default (0,
+/// an empty string, 0xFFFFFFFF for a colour) when the toolkit refuses. Labels are UTF-16 code units, one in each
+/// `wchar_t`.
 ///
 /// A handler may change the tree, and may destroy it as the last thing that it does. The node name that it is given
 /// belongs to the toolkit and is good until the tree changes: a handler that changes the tree copies it first.
@@ -27,8 +28,8 @@ class OXECAD_UI_EXPORT BaseTree : public Component {
     Declined = 2      ///< the placer declined; nothing was inserted
   };
 
-  /// Chooses a place among a parent's children: sets `before` to the sibling that the new node goes before, or leaves it
-  /// null for the end, and gives true; gives false to decline. The array is good during the call only.
+  /// Chooses a place among a parent's children: sets `before` to the sibling that the new node goes before, or leaves
+  /// it null for the end, and gives true; gives false to decline. The array is good during the call only.
   using Placer = bool (*)(const char* name, int count, const char** children, const char*& before);
 
   BaseTree(const char* device, const char* name);
@@ -72,8 +73,8 @@ class OXECAD_UI_EXPORT BaseTree : public Component {
   /// Adds a node before a sibling; a null sibling means the end.
   bool AddNodeBefore(const char* name, const wchar_t* label, const char* parent, const char* before, const char* type,
                      const wchar_t* text2, int i1, int i2, int i3, void* data) const;
-  /// Inserts a node before a sibling (null: at the end), unless the parent has a child of that name already; gives true in
-  /// both cases. Linear in the number of siblings when the toolkit refuses.
+  /// Inserts a node before a sibling (null: at the end), unless the parent has a child of that name already; gives true
+  /// in both cases. Linear in the number of siblings when the toolkit refuses.
   bool InsertNode(const char* name, const wchar_t* label, const char* parent, void* data, const char* before,
                   const char* type, const wchar_t* text2, int i1, int i2, int i3) const;
   /// Inserts a node where `placer` puts it. Linear in the number of siblings.
@@ -102,7 +103,8 @@ class OXECAD_UI_EXPORT BaseTree : public Component {
   bool DoesNotExist(const char* parent, const char* name) const;
 
   /// Splits a node's full name: `head` becomes the name of its parent, `rest` what follows.
-  /// - A name of 7 characters or more with "groups/" anywhere in it: `head` is its first 6 characters, `rest` what follows
+  /// - A name of 7 characters or more with "groups/" anywhere in it: `head` is its first 6 characters, `rest` what
+  /// follows
   ///   the first 7, wherever "groups/" stands.
   /// - Another name with a slash: the parts before and after the first slash.
   /// - Any other name: `rest` is the name; `head` is "root", or empty for "root" itself.

@@ -25,7 +25,8 @@ struct CallbackTraits<int (*)(Component*, void*)> {
 
 }  // namespace detail
 
-/// The wire's function for a component's callback. There is one for each callback, so what is registered can be removed.
+/// The wire's function for a component's callback. There is one for each callback, so what is registered can be
+/// removed.
 template <auto Callback>
 int Call(void* client, void* value) {
   using Client = typename detail::CallbackTraits<decltype(Callback)>::Client;

@@ -1,6 +1,6 @@
 /// \file
-/// Reading from the toolkit: offers preset places for the answers and takes them back when the call fails, so that after
-/// a failure the preset counts whatever was written.
+/// Reading from the toolkit: offers preset places for the answers and takes them back when the call fails, so that
+/// after a failure the preset counts whatever was written.
 #ifndef OXECAD_UI_TOOLKIT_ANSWER_H
 #define OXECAD_UI_TOOLKIT_ANSWER_H
 

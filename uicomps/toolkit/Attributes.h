@@ -1,6 +1,6 @@
 /// \file
-/// The typed side of the codes: each constant ties a code to the type of its value, so that a wrong pair does not compile.
-/// The types are held against the shapes that the tables of codes give.
+/// The typed side of the codes: each constant ties a code to the type of its value, so that a wrong pair does not
+/// compile. The types are held against the shapes that the tables of codes give.
 #ifndef OXECAD_UI_TOOLKIT_ATTRIBUTES_H
 #define OXECAD_UI_TOOLKIT_ATTRIBUTES_H
 
@@ -42,11 +42,11 @@ inline constexpr char kShape<Names> = 'l';
 #define OXECAD_UI_SHAPE_CASE(name, code, shape, meaning) \
   case Codes::name:                                      \
     return shape[0];
-#define OXECAD_UI_SHAPES(Enum, TABLE)           \
-  constexpr char ShapeOf(toolkit::Enum code) {  \
-    using Codes = toolkit::Enum;                \
+#define OXECAD_UI_SHAPES(Enum, TABLE)             \
+  constexpr char ShapeOf(toolkit::Enum code) {    \
+    using Codes = toolkit::Enum;                  \
     switch (code) { TABLE(OXECAD_UI_SHAPE_CASE) } \
-    return 0;                                   \
+    return 0;                                     \
   }
 OXECAD_UI_SHAPES(NodeOption, OXECAD_UI_NODE_OPTIONS)
 OXECAD_UI_SHAPES(NodeAttribute, OXECAD_UI_NODE_ATTRIBUTES)

@@ -10,8 +10,8 @@
 
 namespace oxecad_ui::wire {
 
-/// A text of a node, lent for as long as this object lives. A text that could not be read, or is null, is empty; it goes
-/// back all the same.
+/// A text of a node, lent for as long as this object lives. A text that could not be read, or is null, is empty; it
+/// goes back all the same.
 template <NodeAttribute Code, class Char>
 class LentText {
  public:

@@ -95,8 +95,8 @@ auto AskNode(const Widget& tree, Operation operation, const char* node, Attribut
 }
 
 template <class Attribute>
-constexpr bool kNeedsRelease = !std::is_arithmetic_v<typename Attribute::Value> &&
-                               !std::is_same_v<typename Attribute::Value, void*>;
+constexpr bool kNeedsRelease =
+    !std::is_arithmetic_v<typename Attribute::Value> && !std::is_same_v<typename Attribute::Value, void*>;
 
 }  // namespace detail
 

@@ -8,9 +8,13 @@
 
 namespace oxecad_ui {
 
-constexpr wchar_t FoldCase(wchar_t c) { return c >= L'a' && c <= L'z' ? static_cast<wchar_t>(c - 32) : c; }
+constexpr wchar_t FoldCase(wchar_t c) {
+  return c >= L'a' && c <= L'z' ? static_cast<wchar_t>(c - 32) : c;
+}
 
-constexpr bool IsDecimalDigit(wchar_t c) { return static_cast<std::uint32_t>(c) - U'0' <= 9u; }
+constexpr bool IsDecimalDigit(wchar_t c) {
+  return static_cast<std::uint32_t>(c) - U'0' <= 9u;
+}
 
 namespace detail {
 
@@ -35,8 +39,8 @@ constexpr int CompareNumbers(const wchar_t*& a, const wchar_t*& b) {
 
 }  // namespace detail
 
-/// Whether `a` sorts strictly before `b`. With `Signed`, a minus sign before digits on both sides turns the order of the
-/// numbers round.
+/// Whether `a` sorts strictly before `b`. With `Signed`, a minus sign before digits on both sides turns the order of
+/// the numbers round.
 template <bool Signed>
 constexpr bool IsNaturallyBefore(const wchar_t* a, const wchar_t* b) {
   for (;;) {

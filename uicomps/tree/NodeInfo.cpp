@@ -18,7 +18,9 @@ Tree::TreeInfo& Tree::TreeInfo::operator=(const TreeInfo& other) {
   return *this;
 }
 
-Tree::TreeInfo::~TreeInfo() { Clear(); }
+Tree::TreeInfo::~TreeInfo() {
+  Clear();
+}
 
 void Tree::TreeInfo::Clear() {
   if (ownsRecords) {

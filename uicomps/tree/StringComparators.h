@@ -10,8 +10,8 @@
 
 namespace oxecad_ui {
 
-/// Compares two values. A comparator itself always compares ascending; `IsAscending` tells its user in which order to hand
-/// over the two values.
+/// Compares two values. A comparator itself always compares ascending; `IsAscending` tells its user in which order to
+/// hand over the two values.
 template <class T>
 class CComparator {
  public:
@@ -32,8 +32,9 @@ class CComparator {
 /// changes the digits, the terminator, the folding of case or the sign by overriding a slot.
 ///
 /// A run of digits is a signed 32-bit number that wraps; of equal numbers the one with fewer leading zeros sorts first.
-/// With signed numbers, a minus sign before digits on both sides turns the order of the numbers round. Characters compare
-/// as unsigned 16-bit values. A proper prefix sorts first. Linear in the length of the shorter string; compares in place.
+/// With signed numbers, a minus sign before digits on both sides turns the order of the numbers round. Characters
+/// compare as unsigned 16-bit values. A proper prefix sorts first. Linear in the length of the shorter string; compares
+/// in place.
 template <class S, class C>
 class CAlphaNumericComparator : public CComparator<S> {
  public:
@@ -114,8 +115,8 @@ class OXECAD_UI_EXPORT CAlphaNumericWStringComparator : public CAlphaNumericComp
   wchar_t MinusSign() const override;
 };
 
-/// Natural order of wide strings as names of an electronic design need it: a minus sign is a character like any other, so
-/// "x-3" sorts before "x-5".
+/// Natural order of wide strings as names of an electronic design need it: a minus sign is a character like any other,
+/// so "x-3" sorts before "x-5".
 class OXECAD_UI_EXPORT CAlphaNumericWStringEcadComparator : public CAlphaNumericWStringComparator {
  public:
   bool Compare(const std::wstring& a, const std::wstring& b) const override;

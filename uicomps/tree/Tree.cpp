@@ -1,5 +1,6 @@
 #include <uicomps/tree/Tree.h>
 
+#include <cassert>
 #include <cstdint>
 
 #include <oxecadutils/StringConversion.h>
@@ -40,7 +41,9 @@ Tree& Tree::operator=(const Tree& other) {
   return *this;
 }
 
-Tree::~Tree() { wire::RemoveAction<&Tree::CheckCB>(WidgetOf(*this), wire::Reason::Check); }
+Tree::~Tree() {
+  wire::RemoveAction<&Tree::CheckCB>(WidgetOf(*this), wire::Reason::Check);
+}
 
 void Tree::Init() {
   BaseTree::Init();
@@ -64,13 +67,27 @@ void Tree::SetOnDirtyHandler(DirtyHandler handler, void* client1, void* client2)
   m_client2 = client2;
 }
 
-void Tree::SetAllowActivate(bool allow) { m_allowActivate = allow; }
+void Tree::SetAllowActivate(bool allow) {
+  m_allowActivate = allow;
+}
 
 void Tree::CallDirtyHandler(DirtyReason reason) const {
+  assert(m_dirtyHandler != nullptr && "this kind of tree needs a dirty handler: see SetOnDirtyHandler");
   m_dirtyHandler(m_client1, reinterpret_cast<void*>(static_cast<std::intptr_t>(reason)));
 }
 
-std::vector<std::string>* Tree::ChangedNodes() const { return static_cast<std::vector<std::string>*>(m_client2); }
+void Tree::NotifyNode(const std::string& node, DirtyReason reason) const {
+  if (!HasDirtyHandler()) return;
+  if (std::vector<std::string>* changed = ChangedNodes()) {
+    std::vector<std::string> onlyThisNode{node};  // the name may stand in the list itself
+    changed->swap(onlyThisNode);
+  }
+  CallDirtyHandler(reason);
+}
+
+std::vector<std::string>* Tree::ChangedNodes() const {
+  return static_cast<std::vector<std::string>*>(m_client2);
+}
 
 void Tree::NodeInfoToNames(const NodeInfo& info, std::string& parent, std::wstring& label) {
   std::string rest;

@@ -17,8 +17,9 @@ namespace oxecad_ui {
 
 class SortedNames;
 
-/// Adds records to a `BaseTree`: a node can be described by a `NodeInfo`, added, read back, walked with a `NodeFilter` and
-/// collected into a `TreeInfo`. A check state set on one node is never carried to others here; derived trees do that.
+/// Adds records to a `BaseTree`: a node can be described by a `NodeInfo`, added, read back, walked with a `NodeFilter`
+/// and collected into a `TreeInfo`. A check state set on one node is never carried to others here; derived trees do
+/// that.
 class OXECAD_UI_EXPORT Tree : public BaseTree {
  public:
   enum NodeState : std::uint32_t {
@@ -32,7 +33,8 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
     ByLabel = 0  ///< the label, in natural order
   };
 
-  /// Describes one node. Derived records append their fields and are handled through references and pointers to this one.
+  /// Describes one node. Derived records append their fields and are handled through references and pointers to this
+  /// one.
   struct OXECAD_UI_EXPORT NodeInfo {
     NodeInfo() = default;
     NodeInfo(const NodeInfo&) = default;
@@ -50,8 +52,8 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
     bool expanded = false;
   };
 
-  /// Records in the order in which a walk met them: a node before its subtree. A copy shares the records and does not own
-  /// them.
+  /// Records in the order in which a walk met them: a node before its subtree. A copy shares the records and does not
+  /// own them.
   struct OXECAD_UI_EXPORT TreeInfo {
     TreeInfo() = default;
     TreeInfo(const TreeInfo& other);
@@ -106,9 +108,9 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
     C comparator;
   };
 
-  /// Is called after a user's change with the first client pointer and the reason as a number: 1 colour or value changed
-  /// or a check box toggled, 2 check or selection set changed, 3 selection changed, 4 expanded, 5 collapsed. Its result is
-  /// ignored. It may destroy the tree.
+  /// Is called after a user's change with the first client pointer and the reason as a number: 1 colour or value
+  /// changed or a check box toggled, 2 check or selection set changed, 3 selection changed, 4 expanded, 5 collapsed.
+  /// Its result is ignored. It may destroy the tree.
   using DirtyHandler = int (*)(void* client, void* reason);
 
   Tree(const char* device, const char* name);
@@ -122,7 +124,8 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
 
   /// The user toggled a node's check box. Calls the dirty handler, if there is one, with reason 1.
   virtual void OnCheck(const char* node);
-  /// Adds a node from a record at the end of its parent's children and sets its check state. Gives whether it was added.
+  /// Adds a node from a record at the end of its parent's children and sets its check state. Gives whether it was
+  /// added.
   virtual bool AddNode(const NodeInfo& info);
   /// Fills a record. Gives false, and leaves the record alone, for a null or empty name; a missing node reads as empty.
   virtual bool GetNodeInfo(const char* node, NodeInfo& info) const;
@@ -135,14 +138,14 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
   /// As `AddNode`, placed before a sibling.
   bool AddNodeBefore(const NodeInfo& info, const char* before);
 
-  /// Adds a node among the siblings that this operation added before, in natural order of labels; before those of an equal
-  /// label. Siblings added by other operations are not looked at. An unsupported order adds at the end, after a message on
-  /// standard output. What was added is forgotten when a tree of another name adds a node this way, and by a null parent.
-  /// Reads about log2(n) of n siblings.
+  /// Adds a node among the siblings that this operation added before, in natural order of labels; before those of an
+  /// equal label. Siblings added by other operations are not looked at. An unsupported order adds at the end, after a
+  /// message on standard output. What was added is forgotten when a tree of another name adds a node this way, and by a
+  /// null parent. Reads about log2(n) of n siblings.
   bool AddEcadNode(const char* name, const wchar_t* label, const char* parent, NodeComparableType order,
                    const char* type, const wchar_t* text2, int i1, int i2, int i3, void* data);
-  /// Sorts a node's children in natural order of labels; children of equal labels end in any order. Gives false for a null
-  /// node. An unsupported order prints a message and leaves the order as it is. n log n in the number of children.
+  /// Sorts a node's children in natural order of labels; children of equal labels end in any order. Gives false for a
+  /// null node. An unsupported order prints a message and leaves the order as it is. n log n in the number of children.
   bool SortNodesByType(const char* node, NodeComparableType order);
 
   /// Gives a new comparator of records that the caller deletes; null, after a message on standard output, for an
@@ -164,8 +167,8 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
   NodeState GetNodeState(const char* node) const;
   /// Makes a node's check box accept or ignore the user.
   bool SetCheckSensitive(const char* node, bool sensitive) const;
-  /// Makes the check boxes of the whole tree, root included, accept or ignore the user, whatever the node given. Linear in
-  /// the number of nodes.
+  /// Makes the check boxes of the whole tree, root included, accept or ignore the user, whatever the node given. Linear
+  /// in the number of nodes.
   void SetChildrenCheckSensitive(const char* node, bool sensitive) const;
 
   /// The number of the root's children, 0 without a root.
@@ -189,18 +192,30 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
 
  protected:
   /// Where a record belongs among sorted children: the index of the first that is not before it. Reads the children's
-  /// records with `GetNodeInfo(name, record)`; a child that cannot be read is tried again, up to 10,000 times in a row, and
-  /// then the record goes to the end.
+  /// records with `GetNodeInfo(name, record)`; a child that cannot be read is tried again, up to 10,000 times in a row,
+  /// and then the record goes to the end.
   int BinarySearchNodeLocation(std::vector<std::string>& children, const CComparator<NodeInfo>* cmp, NodeInfo& node);
   /// Sorts records as `SortNodesByType` does.
   void SortChildrenByType(std::vector<NodeInfo>& children, NodeComparableType order);
 
   /// What the dirty handler is told.
-  enum DirtyReason : int { ValueChanged = 1, SetChanged = 2, SelectionChanged = 3, NodeExpanded = 4, NodeCollapsed = 5 };
+  enum DirtyReason : int {
+    ValueChanged = 1,
+    SetChanged = 2,
+    SelectionChanged = 3,
+    NodeExpanded = 4,
+    NodeCollapsed = 5
+  };
+
+  /// Reads name, label, state, type and expanded flag of a node, whose name is not null, in this order.
+  void FillNodeInfo(const char* node, NodeInfo& info) const;
 
   bool HasDirtyHandler() const { return m_dirtyHandler != nullptr; }
   /// Calls the dirty handler, which must be there. The tree may be gone afterwards.
   void CallDirtyHandler(DirtyReason reason) const;
+  /// Tells the dirty handler, if there is one, that a node changed: the list of changed nodes, where there is one,
+  /// holds just this node then. The tree may be gone afterwards.
+  void NotifyNode(const std::string& node, DirtyReason reason) const;
   /// The second client pointer as the list of changed node names that colour and compare trees keep; may be null.
   std::vector<std::string>* ChangedNodes() const;
   void* SecondClient() const { return m_client2; }
@@ -209,7 +224,6 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
  private:
   using ChildNameCache = std::map<std::string, std::unique_ptr<SortedNames>>;
 
-  void FillNodeInfo(const char* node, NodeInfo& info) const;
   bool FinishAdding(bool added, const NodeInfo& info) const;
   void ClaimCache(const char* parent);
   SortedNames* CachedChildren(const char* parent, const std::string& name);

@@ -1,0 +1,191 @@
+/// \file
+/// The tree of a comparison between two designs.
+#ifndef OXECAD_UI_COMPARE_COMPARECOLORTREE_H
+#define OXECAD_UI_COMPARE_COMPARECOLORTREE_H
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+#include <oxcore/Mainframe.h>
+#include <oxk/ecad/CompareColorVis.h>
+
+#include <uicomps/toolkit/Export.h>
+#include <uicomps/tree/Tree.h>
+
+namespace oxecad_ui {
+
+/// Each compare node (type "colorvis") shows five values in five columns: its colour in design A, in design B, and
+/// where both overlap, the show mode, and a check box that dims the overlap. The values live in the cells alone:
+/// nothing is cached, and every step reads the cells that it needs.
+///
+/// A node that has compare children sums them up: the common value, or "mix". Children count as compare children when
+/// the first of them is a compare node.
+///
+///                  a      b      overlap  showMode   dimOverlap
+///     net          red    mix    green    mix_show   mixed
+///       pads       red    blue   green    both_show  on
+///       tracks     red    -      -        a_show     off       (in design A only)
+///       vias       -      red    -        b_show     off       (in design B only)
+///
+/// Colours are 0x00BBGGRR; 0xFFFFFFFF is none: unknown, or several. The second client pointer of `SetOnDirtyHandler`,
+/// when not null, is a `std::vector<std::string>` that gets the name of the changed node before the handler is called.
+/// Reasons: 1 a compare value changed (also when the colour picker was cancelled), 2 a node's own check box was
+/// toggled.
+class OXECAD_UI_EXPORT CompareColorTree : public Tree {
+ public:
+  using ShowMode = oxk::ecad::CompareColorVis::ShowMode;
+
+  /// In which designs a node exists; a set of bits.
+  enum DesignFlag : std::uint32_t { DesignNone = 0, DesignA = 1, DesignB = 2, DesignBoth = 3 };
+
+  struct OXECAD_UI_EXPORT CompareNodeInfo : NodeInfo {
+    CompareNodeInfo() = default;
+    CompareNodeInfo(const CompareNodeInfo&) = default;
+    CompareNodeInfo& operator=(const CompareNodeInfo&) = default;
+    ~CompareNodeInfo() override;
+
+    unsigned int colorA = 0xFFFFFFFFu;
+    unsigned int colorB = 0xFFFFFFFFu;
+    unsigned int colorOverlap = 0xFFFFFFFFu;
+    ShowMode showMode = ShowMode::Both;
+    NodeState dim = Unchecked;
+    DesignFlag designFlag = DesignNone;
+  };
+
+  /// Takes compare nodes; the first other node ends its list of siblings.
+  class OXECAD_UI_EXPORT ColorNodeFilter : public NodeFilter {
+   public:
+    Result operator()(const Tree* tree, const char* node) const override;
+    Result operator()(const NodeInfo& info) const override;
+  };
+
+  static constexpr const char* s_compareType = "colorvis";
+  static constexpr const char* s_showModeColumn = "showMode";
+  static constexpr const char* s_dimColumn = "dimOverlap";
+  static constexpr const char* s_colorAColumn = "a";
+  static constexpr const char* s_colorBColumn = "b";
+  static constexpr const char* s_overlapColumn = "overlap";
+  /// The one option menu, moved into the cell that is clicked, and its option that stands for no choice.
+  static constexpr const char* s_showModeMenu = "ShowModeOM";
+  static constexpr const char* s_noShowMode = "none";
+  /// What a colour cell's label has before and behind the name of the colour's icon.
+  static constexpr const wchar_t* s_imgOpen = L"<img src=\"";
+  static constexpr const wchar_t* s_imgClose = L"\">";
+
+  CompareColorTree(const char* device, const char* component);
+  /// The copy works on the same widget and the same controls; the destructor of each destroys the controls.
+  CompareColorTree(const CompareColorTree&) = default;
+  CompareColorTree& operator=(const CompareColorTree&) = default;
+  ~CompareColorTree() override;
+
+  using Tree::AddNode;
+  using Tree::AddNodeBefore;
+  using Tree::GetNodeInfo;
+  using Tree::Init;
+
+  /// As `Tree::Init`, and creates the option menu of show modes. The main frame, which may be null and is not owned,
+  /// becomes the colour picker's parent.
+  void Init(oxcore::Mainframe* mainframe);
+
+  void OnActivate(const char* node) override;
+  void OnCollapse(const char* node) override;
+  void OnExpand(const char* node) override;
+  void OnSelect(int count, char** nodes, int extra) override;
+  /// A node's own check box was toggled: calls the dirty handler, if there is one, with reason 2.
+  void OnCheck(const char* node) override;
+
+  /// Adds a node that is no compare node, such as a heading; its check box ignores the user. Gives false also when the
+  /// node was added and its check box could not be changed.
+  bool AddNode(const NodeInfo& info) override;
+  /// Adds a compare node, whose type must be "colorvis", writes its cells and sums up above it. Gives false also when
+  /// the node was added and could not be set up. Linear in the number of siblings.
+  bool AddNode(const CompareNodeInfo& info);
+  bool AddNodeBefore(const CompareNodeInfo& info, const char* before);
+
+  /// Gives six values to a compare node and its branch, and sums up above. Does nothing for any other node.
+  void ChangeNodeInfo(const char* node, unsigned int colorA, unsigned int colorB, unsigned int colorOverlap,
+                      ShowMode showMode, NodeState dim, DesignFlag designFlag);
+  /// Accepts and ignores a list of nodes.
+  void ChangeNodeInfo(const std::vector<std::string>& nodes);
+  /// Gives six values to a node and its compare branch, the deepest nodes first. Linear in the size of the branch.
+  void ParentInfoChanged(const char* node, unsigned int colorA, unsigned int colorB, unsigned int colorOverlap,
+                         ShowMode showMode, NodeState dim, DesignFlag designFlag);
+  /// Sums up the compare children of a node, and of its ancestors as long as something changes. Linear in the number of
+  /// children of each node looked at.
+  void ChildInfoChanged(const char* node);
+
+ protected:
+  /// A new `CompareNodeInfo` for a compare node, a new `NodeInfo` for any other.
+  NodeInfo* GetNodeInfo(const char* node) const override;
+
+ private:
+  using Children = std::vector<std::string>;
+
+  const char* GetDimCheckCtrl(const char* node);
+  unsigned long long GetIndex(const char* node) const;
+  bool OnNodeAdded(const CompareNodeInfo& info);
+  void GetNodeInfo(const char* node, unsigned int& colorA, unsigned int& colorB, unsigned int& colorOverlap,
+                   ShowMode& showMode, NodeState& dim, DesignFlag& designFlag) const;
+  void SetNodeInfo(const char* node, unsigned int colorA, unsigned int colorB, unsigned int colorOverlap,
+                   ShowMode showMode, NodeState dim, DesignFlag designFlag);
+
+  static std::wstring ColorToLabel(unsigned int color);
+  static unsigned int LabelToColor(const std::wstring& label);
+  static const wchar_t* DimToLabel(NodeState dim);
+  static NodeState LabelToDim(const wchar_t* label);
+  static const wchar_t* ShowModeToLabel(ShowMode showMode);
+  static ShowMode LabelToShowMode(const wchar_t* label);
+  static const char* LabelToShowModeName(const wchar_t* label);
+  static ShowMode ShowModeNameToValue(const char* name);
+
+  // Summaries of children; an empty list leaves the outputs alone.
+  void Aggregate(const Children& children, unsigned int& colorA, unsigned int& colorB, unsigned int& colorOverlap,
+                 ShowMode& showMode, NodeState& dim, DesignFlag& designFlag);
+  std::wstring AggregateColor(const Children& children, const char* column);
+  void AggregateDim(const Children& children, NodeState& dim);
+  void AggregateShowMode(const Children& children, ShowMode& showMode);
+
+  // Downward: a node and its compare branch.
+  void ParentColorChanged(const char* node, unsigned int color, const char* column);
+  void ParentDimChanged(const char* node, NodeState dim);
+  void ParentShowModeChanged(const char* node, ShowMode showMode);
+
+  // Upward: a node and its ancestors, as long as something changes.
+  void ChildColorChanged(const char* node, const char* column);
+  void ChildDimChanged(const char* node);
+  void ChildShowModeChanged(const char* node);
+
+  void OnCellSelect();
+  void OnDimCheck(unsigned long long index);
+  void OnShowModeSelect(unsigned long long index);
+  void OfferShowModes(const std::string& node);
+  void AskForColor(const std::string& node, const std::string& column);
+
+  static int CellSelectCB(CompareColorTree* self);
+  static int DimCheckActivatedCB(CompareColorTree* self, void* value);
+  static int ShowModeSelectCB(CompareColorTree* self, void* value);
+
+  bool IsCompareNode(const char* node) const;
+  Children CompareChildren(const char* node) const;
+  template <class WriteNode>
+  void WriteBranch(const char* node, const WriteNode& writeNode) const;
+  template <class UpdateNode>
+  void Climb(const char* node, const UpdateNode& updateNode) const;
+
+  const wchar_t* CellLabel(const char* node, const char* column) const;
+  void SetCellLabel(const char* node, const char* column, const wchar_t* label) const;
+  NodeState DimState(const char* node) const;
+  void SetDimState(const char* node, NodeState dim) const;
+
+  oxcore::Mainframe* m_mainframe = nullptr;
+  /// The names of compare nodes in the order in which they were added; a node's place is its index.
+  std::vector<std::string> m_nodes;
+  /// The name of each node's dim check button.
+  std::map<std::string, std::string> m_dimControls;
+};
+
+}  // namespace oxecad_ui
+
+#endif
