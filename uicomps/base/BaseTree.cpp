@@ -76,13 +76,9 @@ void BaseTree::CollapseAll() const {
   }
 }
 
-void BaseTree::Enable(bool enable) const {
-  wire::Modify(WidgetOf(*this), wire::kSensitive(enable));
-}
+void BaseTree::Enable(bool enable) const { wire::Modify(WidgetOf(*this), wire::kSensitive(enable)); }
 
-void BaseTree::SetRedraw(bool redraw) const {
-  wire::Modify(WidgetOf(*this), wire::kRedraw(redraw));
-}
+void BaseTree::SetRedraw(bool redraw) const { wire::Modify(WidgetOf(*this), wire::kRedraw(redraw)); }
 
 unsigned int BaseTree::GetBackgroundColor() const {
   const auto [read, color] = wire::Retrieve(WidgetOf(*this), wire::kBackgroundColor);
@@ -117,9 +113,7 @@ BaseTree::InsertNodeResult BaseTree::InsertNodeSortByName(const char* name, cons
   return InsertNode(name, label, parent, data, before, type, text2, i1, i2, i3) ? Inserted : NotInserted;
 }
 
-bool BaseTree::DeleteNode(const char* node) const {
-  return bool(wire::DeleteNode(WidgetOf(*this), node));
-}
+bool BaseTree::DeleteNode(const char* node) const { return bool(wire::DeleteNode(WidgetOf(*this), node)); }
 
 bool BaseTree::MoveNodeBefore(const char* node, const char* parent, const char* before) const {
   return bool(wire::MoveNode(WidgetOf(*this), node, parent, before));
@@ -129,13 +123,9 @@ bool BaseTree::ModifyNodeLabel(const char* node, const wchar_t* label) const {
   return bool(wire::SetNode(WidgetOf(*this), node, wire::kNodeLabel(label)));
 }
 
-std::wstring BaseTree::GetNodeLabel(const char* node) const {
-  return wire::LentLabel(WidgetOf(*this), node).Copy();
-}
+std::wstring BaseTree::GetNodeLabel(const char* node) const { return wire::LentLabel(WidgetOf(*this), node).Copy(); }
 
-std::string BaseTree::GetNodeType(const char* node) const {
-  return wire::LentType(WidgetOf(*this), node).Copy();
-}
+std::string BaseTree::GetNodeType(const char* node) const { return wire::LentType(WidgetOf(*this), node).Copy(); }
 
 std::string BaseTree::GetParent(const char* node, int* status) const {
   const wire::LentParent parent(WidgetOf(*this), node);
@@ -143,9 +133,7 @@ std::string BaseTree::GetParent(const char* node, int* status) const {
   return parent.Copy();
 }
 
-int BaseTree::GetNodeChildCount(const char* node) const {
-  return wire::ChildCount(WidgetOf(*this), node);
-}
+int BaseTree::GetNodeChildCount(const char* node) const { return wire::ChildCount(WidgetOf(*this), node); }
 
 bool BaseTree::GetNodeChildren(const char* node, int* count, char*** children) const {
   const auto [read, list] = wire::InquireNode(WidgetOf(*this), node, wire::kNodeChildren);

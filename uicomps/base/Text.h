@@ -5,19 +5,11 @@
 
 namespace oxecad_ui {
 
-inline const char* TextOrEmpty(const char* text) {
-  return text != nullptr ? text : "";
-}
-inline const wchar_t* TextOrEmpty(const wchar_t* text) {
-  return text != nullptr ? text : L"";
-}
+inline const char* TextOrEmpty(const char* text) { return text != nullptr ? text : ""; }
+inline const wchar_t* TextOrEmpty(const wchar_t* text) { return text != nullptr ? text : L""; }
 
-inline bool IsEmpty(const char* text) {
-  return text == nullptr || text[0] == '\0';
-}
-inline bool IsEmpty(const wchar_t* text) {
-  return text == nullptr || text[0] == L'\0';
-}
+inline bool IsEmpty(const char* text) { return text == nullptr || text[0] == '\0'; }
+inline bool IsEmpty(const wchar_t* text) { return text == nullptr || text[0] == L'\0'; }
 
 }  // namespace oxecad_ui
 

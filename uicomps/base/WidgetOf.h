@@ -9,9 +9,7 @@
 namespace oxecad_ui {
 
 /// The wire's address of a component's widget; good for as long as the component keeps its names.
-inline wire::Widget WidgetOf(const Component& component) {
-  return {component.GetDevice(), component.GetName()};
-}
+inline wire::Widget WidgetOf(const Component& component) { return {component.GetDevice(), component.GetName()}; }
 
 }  // namespace oxecad_ui
 

@@ -89,13 +89,9 @@ void ColorTree::OnActivate(const char* node) {
   if (IsActivateAllowed()) ChangeNodeColor(node);
 }
 
-void ColorTree::OnCollapse(const char* node) {
-  NotifyNode(TextOrEmpty(node), NodeCollapsed);
-}
+void ColorTree::OnCollapse(const char* node) { NotifyNode(TextOrEmpty(node), NodeCollapsed); }
 
-void ColorTree::OnExpand(const char* node) {
-  NotifyNode(TextOrEmpty(node), NodeExpanded);
-}
+void ColorTree::OnExpand(const char* node) { NotifyNode(TextOrEmpty(node), NodeExpanded); }
 
 void ColorTree::OnSelect(int count, char** nodes, int) {
   if (std::vector<std::string>* changed = ChangedNodes()) {

@@ -24,13 +24,9 @@ std::vector<std::string> SelectedNodes(const wire::Widget& tree) {
 
 }  // namespace
 
-void ColorTree::AddSingleCheckBranch(const char* node) {
-  m_singleCheckBranches.insert(TextOrEmpty(node));
-}
+void ColorTree::AddSingleCheckBranch(const char* node) { m_singleCheckBranches.insert(TextOrEmpty(node)); }
 
-bool ColorTree::IsSingleCheckBranch(const std::string& node) const {
-  return m_singleCheckBranches.count(node) != 0;
-}
+bool ColorTree::IsSingleCheckBranch(const std::string& node) const { return m_singleCheckBranches.count(node) != 0; }
 
 bool ColorTree::IsCheckSensitive(const char* node) const {
   const auto [read, sensitive] = wire::GetNode(WidgetOf(*this), node, wire::kNodeCheckSensitive);

@@ -23,9 +23,7 @@ void ColorTree::Init(oxcore::Mainframe* mainframe) {
   Tree::Init();
 }
 
-bool ColorTree::IsColorless(const std::string& type) {
-  return type.find(s_colorlessType) != std::string::npos;
-}
+bool ColorTree::IsColorless(const std::string& type) { return type.find(s_colorlessType) != std::string::npos; }
 
 const char* ColorTree::GetType(unsigned int color) {
   const char* const icon = ColorIconBag::Get().GetColorIcon(s_image, color);

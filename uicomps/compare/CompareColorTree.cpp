@@ -53,9 +53,7 @@ bool CompareColorTree::AddNode(const NodeInfo& info) {
   return Tree::AddNode(info) && SetCheckSensitive(info.name.c_str(), false);
 }
 
-bool CompareColorTree::AddNode(const CompareNodeInfo& info) {
-  return Tree::AddNode(info) && OnNodeAdded(info);
-}
+bool CompareColorTree::AddNode(const CompareNodeInfo& info) { return Tree::AddNode(info) && OnNodeAdded(info); }
 
 bool CompareColorTree::AddNodeBefore(const CompareNodeInfo& info, const char* before) {
   return Tree::AddNodeBefore(info, before) && OnNodeAdded(info);

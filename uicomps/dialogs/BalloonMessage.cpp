@@ -70,9 +70,7 @@ const char* DefaultButton(const BalloonMessage& message) {
   return nullptr;
 }
 
-bool CanBeCancelled(const BalloonMessage& message) {
-  return (message.buttons & BalloonCancel) != 0;
-}
+bool CanBeCancelled(const BalloonMessage& message) { return (message.buttons & BalloonCancel) != 0; }
 
 /// What the balloon points at.
 struct Anchor {

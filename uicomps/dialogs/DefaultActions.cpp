@@ -36,30 +36,16 @@ void Store(const Command& command, const char* action) {
   oxk::World::GetWorld()->SaveAndApplyPreferences();
 }
 
-bool IsAdd(const Command& command, const char* action) {
-  return std::strcmp(action, command.add) == 0;
-}
+bool IsAdd(const Command& command, const char* action) { return std::strcmp(action, command.add) == 0; }
 
 }  // namespace
 
-const char* GetHighlightDefaultAction() {
-  return Stored(kHighlight);
-}
-void SetHighlightDefaultAction(const char* action) {
-  Store(kHighlight, action);
-}
-bool IsAddToHighlightsDefaultAction() {
-  return IsAdd(kHighlight, GetHighlightDefaultAction());
-}
+const char* GetHighlightDefaultAction() { return Stored(kHighlight); }
+void SetHighlightDefaultAction(const char* action) { Store(kHighlight, action); }
+bool IsAddToHighlightsDefaultAction() { return IsAdd(kHighlight, GetHighlightDefaultAction()); }
 
-const char* GetIsolateDefaultAction() {
-  return Stored(kIsolate);
-}
-void SetIsolateDefaultAction(const char* action) {
-  Store(kIsolate, action);
-}
-bool IsAddToIsolatesDefaultAction() {
-  return IsAdd(kIsolate, GetIsolateDefaultAction());
-}
+const char* GetIsolateDefaultAction() { return Stored(kIsolate); }
+void SetIsolateDefaultAction(const char* action) { Store(kIsolate, action); }
+bool IsAddToIsolatesDefaultAction() { return IsAdd(kIsolate, GetIsolateDefaultAction()); }
 
 }  // namespace oxecad_ui

@@ -19,20 +19,14 @@ std::string ColorDigits(unsigned int color) {
   return digits;
 }
 
-std::string FontOpening(unsigned int color) {
-  return "<font color=#" + ColorDigits(color) + ">";
-}
-std::string BackgroundOpening(unsigned int color) {
-  return "<span style=\"background:" + ColorDigits(color) + "\">";
-}
+std::string FontOpening(unsigned int color) { return "<font color=#" + ColorDigits(color) + ">"; }
+std::string BackgroundOpening(unsigned int color) { return "<span style=\"background:" + ColorDigits(color) + "\">"; }
 
 constexpr const char* kFontClosing = "</font>";
 constexpr const char* kBackgroundClosing = "</span>";
 
 /// Tags are plain ASCII.
-std::wstring Widen(const std::string& tag) {
-  return std::wstring(tag.begin(), tag.end());
-}
+std::wstring Widen(const std::string& tag) { return std::wstring(tag.begin(), tag.end()); }
 
 }  // namespace
 
@@ -48,13 +42,9 @@ void GetFontColorTags(unsigned int color, std::wstring& opening, std::wstring& c
   closing = GetFontColorClosingTag();
 }
 
-std::wstring GetFontColorOpeningTag(unsigned int color) {
-  return Widen(FontOpening(color));
-}
+std::wstring GetFontColorOpeningTag(unsigned int color) { return Widen(FontOpening(color)); }
 
-std::wstring GetFontColorClosingTag() {
-  return Widen(kFontClosing);
-}
+std::wstring GetFontColorClosingTag() { return Widen(kFontClosing); }
 
 void GetBgColorTags(unsigned int color, std::string& opening, std::string& closing) {
   if (color == kNoColor) return;

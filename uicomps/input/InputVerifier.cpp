@@ -22,9 +22,7 @@ InputVerifier::InputVerifier(const char* device) : m_device(TextOrEmpty(device))
 
 InputVerifier::~InputVerifier() = default;
 
-void InputVerifier::SetDev(const char* device) {
-  m_device = Symbol(TextOrEmpty(device));
-}
+void InputVerifier::SetDev(const char* device) { m_device = Symbol(TextOrEmpty(device)); }
 
 bool InputVerifier::AddControl(const char* name, const SmartPtr<InputTest>& test) {
   const Symbol symbol(TextOrEmpty(name));

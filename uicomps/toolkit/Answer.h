@@ -14,9 +14,7 @@ template <class T>
 auto PlaceSlots(int code, T& place) {
   return std::make_tuple(code, Slot(&place));
 }
-inline auto PlaceSlots(int code, Names& place) {
-  return std::make_tuple(code, Slot(&place.count), Slot(&place.names));
-}
+inline auto PlaceSlots(int code, Names& place) { return std::make_tuple(code, Slot(&place.count), Slot(&place.names)); }
 
 template <class T>
 void Settle(Result result, T preset, T& place) {

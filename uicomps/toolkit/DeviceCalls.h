@@ -18,17 +18,11 @@ inline bool CreateDevice(const char* resource, const char* context) {
   return ui_create_device_ext(resource, resource, path) != 0;
 }
 
-inline Result ShowDevice(const char* device) {
-  return {ui_manage_device(device)};
-}
-inline void HideDevice(const char* device) {
-  ui_unmanage_device(device);
-}
+inline Result ShowDevice(const char* device) { return {ui_manage_device(device)}; }
+inline void HideDevice(const char* device) { ui_unmanage_device(device); }
 
 /// Runs a device modally; gives the value that ended the run.
-inline int RunDevice(const char* device) {
-  return ui_activate_device(device);
-}
+inline int RunDevice(const char* device) { return ui_activate_device(device); }
 
 /// Lets an event of a component end its device's run with a value.
 inline Result EndRunOn(const Widget& widget, Reason reason, std::uint32_t value) {
@@ -72,9 +66,7 @@ inline Result MoveDevice(const Widget& device, const Position& position) {
       std::make_tuple(Slot(position.x), Slot(position.y), Slot(toolkit::kKeepSize), Slot(toolkit::kKeepSize)));
 }
 
-inline Result UpdateLayout(const Widget& device) {
-  return Perform(device, Operation::UpdateLayout, std::make_tuple());
-}
+inline Result UpdateLayout(const Widget& device) { return Perform(device, Operation::UpdateLayout, std::make_tuple()); }
 
 /// The skin's balloon style for a quadrant of the screen; null when there is none.
 inline Result BalloonStyle(unsigned char quadrant, void*& style) {
@@ -89,9 +81,7 @@ inline void SelectAllText(const Widget& field) {
   Perform(field, Operation::SelectText, std::make_tuple(Slot(0), Slot(toolkit::kEndOfText)));
 }
 
-inline void Beep() {
-  ui_beep();
-}
+inline void Beep() { ui_beep(); }
 
 }  // namespace oxecad_ui::wire
 

@@ -25,21 +25,11 @@ struct Result {
   explicit operator bool() const { return code == 0; }
 };
 
-inline std::intptr_t Slot(std::int32_t value) {
-  return value;
-}
-inline std::uintptr_t Slot(std::uint32_t value) {
-  return value;
-}
-inline std::uintptr_t Slot(std::uint64_t value) {
-  return static_cast<std::uintptr_t>(value);
-}
-inline std::intptr_t Slot(bool value) {
-  return value ? 1 : 0;
-}
-inline const void* Slot(const void* value) {
-  return value;
-}
+inline std::intptr_t Slot(std::int32_t value) { return value; }
+inline std::uintptr_t Slot(std::uint32_t value) { return value; }
+inline std::uintptr_t Slot(std::uint64_t value) { return static_cast<std::uintptr_t>(value); }
+inline std::intptr_t Slot(bool value) { return value ? 1 : 0; }
+inline const void* Slot(const void* value) { return value; }
 
 template <class Enum, std::enable_if_t<std::is_enum_v<Enum>, int> = 0>
 auto Slot(Enum value) {

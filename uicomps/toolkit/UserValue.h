@@ -7,9 +7,7 @@
 
 namespace oxecad_ui::wire {
 
-inline void* AsUserData(std::uint32_t number) {
-  return reinterpret_cast<void*>(static_cast<std::uintptr_t>(number));
-}
+inline void* AsUserData(std::uint32_t number) { return reinterpret_cast<void*>(static_cast<std::uintptr_t>(number)); }
 
 /// The low 32 bits.
 inline std::uint32_t AsNumber(const void* data) {
@@ -17,9 +15,7 @@ inline std::uint32_t AsNumber(const void* data) {
 }
 
 /// The value of a callback as the index that was registered with it.
-inline std::uint64_t AsIndex(const void* value) {
-  return reinterpret_cast<std::uintptr_t>(value);
-}
+inline std::uint64_t AsIndex(const void* value) { return reinterpret_cast<std::uintptr_t>(value); }
 
 }  // namespace oxecad_ui::wire
 

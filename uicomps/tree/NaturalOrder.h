@@ -8,13 +8,9 @@
 
 namespace oxecad_ui {
 
-constexpr wchar_t FoldCase(wchar_t c) {
-  return c >= L'a' && c <= L'z' ? static_cast<wchar_t>(c - 32) : c;
-}
+constexpr wchar_t FoldCase(wchar_t c) { return c >= L'a' && c <= L'z' ? static_cast<wchar_t>(c - 32) : c; }
 
-constexpr bool IsDecimalDigit(wchar_t c) {
-  return static_cast<std::uint32_t>(c) - U'0' <= 9u;
-}
+constexpr bool IsDecimalDigit(wchar_t c) { return static_cast<std::uint32_t>(c) - U'0' <= 9u; }
 
 namespace detail {
 

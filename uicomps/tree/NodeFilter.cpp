@@ -20,20 +20,14 @@ Tree::NodeFilter::Result TakeChecked(Tree::NodeState state) {
 
 Tree::NodeFilter::~NodeFilter() = default;
 
-Tree::NodeFilter::Result Tree::Everything::operator()(const Tree*, const char*) const {
-  return Accept;
-}
+Tree::NodeFilter::Result Tree::Everything::operator()(const Tree*, const char*) const { return Accept; }
 
-Tree::NodeFilter::Result Tree::Everything::operator()(const NodeInfo&) const {
-  return Accept;
-}
+Tree::NodeFilter::Result Tree::Everything::operator()(const NodeInfo&) const { return Accept; }
 
 Tree::NodeFilter::Result Tree::CheckedOnly::operator()(const Tree* tree, const char* node) const {
   return tree != nullptr ? TakeChecked(tree->GetNodeState(node)) : SkipNode;
 }
 
-Tree::NodeFilter::Result Tree::CheckedOnly::operator()(const NodeInfo& info) const {
-  return TakeChecked(info.state);
-}
+Tree::NodeFilter::Result Tree::CheckedOnly::operator()(const NodeInfo& info) const { return TakeChecked(info.state); }
 
 }  // namespace oxecad_ui

@@ -18,9 +18,7 @@ Tree::TreeInfo& Tree::TreeInfo::operator=(const TreeInfo& other) {
   return *this;
 }
 
-Tree::TreeInfo::~TreeInfo() {
-  Clear();
-}
+Tree::TreeInfo::~TreeInfo() { Clear(); }
 
 void Tree::TreeInfo::Clear() {
   if (ownsRecords) {

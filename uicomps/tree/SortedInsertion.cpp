@@ -16,9 +16,7 @@ using EcadLabelOrder = Tree::NodeInfoLabelComperator<CAlphaNumericWStringEcadCom
 /// A child that cannot be read so many times in a row will never be.
 constexpr int kMostFailedReads = 10000;
 
-void SayNotSupported() {
-  std::fputs("Not supported type..\n", stdout);
-}
+void SayNotSupported() { std::fputs("Not supported type..\n", stdout); }
 
 /// The component name of the tree that filled its memory of inserted names last; empty and unset until one did. It is
 /// the name and not a pointer to it, because the tree may be gone by now.

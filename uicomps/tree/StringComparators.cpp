@@ -13,33 +13,19 @@ bool CAlphaNumericWStringComparator::Compare(const std::wstring& a, const std::w
   return CompareCharacters(Chars(a), Chars(b), true);
 }
 
-wchar_t CAlphaNumericWStringComparator::ToUpper(wchar_t c) const {
-  return FoldCase(c);
-}
+wchar_t CAlphaNumericWStringComparator::ToUpper(wchar_t c) const { return FoldCase(c); }
 
-const wchar_t* CAlphaNumericWStringComparator::Chars(const std::wstring& s) const {
-  return s.c_str();
-}
+const wchar_t* CAlphaNumericWStringComparator::Chars(const std::wstring& s) const { return s.c_str(); }
 
-wchar_t CAlphaNumericWStringComparator::DigitLow() const {
-  return L'0';
-}
+wchar_t CAlphaNumericWStringComparator::DigitLow() const { return L'0'; }
 
-wchar_t CAlphaNumericWStringComparator::DigitHigh() const {
-  return L'9';
-}
+wchar_t CAlphaNumericWStringComparator::DigitHigh() const { return L'9'; }
 
-wchar_t CAlphaNumericWStringComparator::Terminator() const {
-  return L'\0';
-}
+wchar_t CAlphaNumericWStringComparator::Terminator() const { return L'\0'; }
 
-bool CAlphaNumericWStringComparator::SignedNumbers() const {
-  return true;
-}
+bool CAlphaNumericWStringComparator::SignedNumbers() const { return true; }
 
-wchar_t CAlphaNumericWStringComparator::MinusSign() const {
-  return L'-';
-}
+wchar_t CAlphaNumericWStringComparator::MinusSign() const { return L'-'; }
 
 bool CAlphaNumericWStringEcadComparator::Compare(const std::wstring& a, const std::wstring& b) const {
   if (typeid(*this) == typeid(CAlphaNumericWStringEcadComparator)) {

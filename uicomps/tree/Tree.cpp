@@ -41,9 +41,7 @@ Tree& Tree::operator=(const Tree& other) {
   return *this;
 }
 
-Tree::~Tree() {
-  wire::RemoveAction<&Tree::CheckCB>(WidgetOf(*this), wire::Reason::Check);
-}
+Tree::~Tree() { wire::RemoveAction<&Tree::CheckCB>(WidgetOf(*this), wire::Reason::Check); }
 
 void Tree::Init() {
   BaseTree::Init();
@@ -67,9 +65,7 @@ void Tree::SetOnDirtyHandler(DirtyHandler handler, void* client1, void* client2)
   m_client2 = client2;
 }
 
-void Tree::SetAllowActivate(bool allow) {
-  m_allowActivate = allow;
-}
+void Tree::SetAllowActivate(bool allow) { m_allowActivate = allow; }
 
 void Tree::CallDirtyHandler(DirtyReason reason) const {
   assert(m_dirtyHandler != nullptr && "this kind of tree needs a dirty handler: see SetOnDirtyHandler");
@@ -85,9 +81,7 @@ void Tree::NotifyNode(const std::string& node, DirtyReason reason) const {
   CallDirtyHandler(reason);
 }
 
-std::vector<std::string>* Tree::ChangedNodes() const {
-  return static_cast<std::vector<std::string>*>(m_client2);
-}
+std::vector<std::string>* Tree::ChangedNodes() const { return static_cast<std::vector<std::string>*>(m_client2); }
 
 void Tree::NodeInfoToNames(const NodeInfo& info, std::string& parent, std::wstring& label) {
   std::string rest;

@@ -109,8 +109,6 @@ void Tree::GetTreeInfo(TreeInfo& info, const NodeFilter& filter, bool includeRoo
   GetBranchInfo(root.c_str(), info, filter);
 }
 
-void Tree::GetCheckedNodes(TreeInfo& info) const {
-  GetTreeInfo(info, CheckedOnly(), false);
-}
+void Tree::GetCheckedNodes(TreeInfo& info) const { GetTreeInfo(info, CheckedOnly(), false); }
 
 }  // namespace oxecad_ui
