@@ -36,26 +36,18 @@ unsigned int Answer(const ColorPickerRequest& request) {
 
 }  // namespace
 
-ColorPicker SetColorPicker(ColorPicker picker) {
-  return std::exchange(State().picker, std::move(picker));
-}
+ColorPicker SetColorPicker(ColorPicker picker) { return std::exchange(State().picker, std::move(picker)); }
 
-void QueueColorAnswer(unsigned int color) {
-  State().answers.push_back(color);
-}
+void QueueColorAnswer(unsigned int color) { State().answers.push_back(color); }
 
-std::size_t CountColorAnswers() {
-  return State().answers.size();
-}
+std::size_t CountColorAnswers() { return State().answers.size(); }
 
 std::vector<ColorPickerRequest> TakeColorPickerRequests() {
   const auto requests = std::exchange(State().requests, {});
   return {requests.begin(), requests.end()};
 }
 
-void ResetColorPicker() {
-  State() = PickerState();
-}
+void ResetColorPicker() { State() = PickerState(); }
 
 ColorPickerDlg::ColorPickerDlg(Mainframe* parent, const std::string& title)
     : ColorPickerDlg(parent, oxecadutils::Utf8ToWideStr(title)) {}

@@ -12,9 +12,7 @@ HelpViewer& Viewer() {
 
 }  // namespace
 
-HelpViewer SetHelpViewer(HelpViewer viewer) {
-  return std::exchange(Viewer(), std::move(viewer));
-}
+HelpViewer SetHelpViewer(HelpViewer viewer) { return std::exchange(Viewer(), std::move(viewer)); }
 
 void ShowHelp(const oxkutils::Symbol& topic) {
   if (topic.empty() || !Viewer()) return;

@@ -1,6 +1,8 @@
 #include <oxcore/RenameDlg.h>
 
+#include <algorithm>
 #include <cstdint>
+#include <iterator>
 
 #include <oxcore/Help.h>
 #include <uicomps/toolkit/Toolkit.h>
@@ -39,6 +41,20 @@ bool Put(const char* component, ComponentAttribute attribute, std::intptr_t valu
 bool DeviceStands() {
   const wchar_t* text = nullptr;
   return ReadName(text) || (ui_create_device(kDevice, kDevice) == 0);
+}
+
+bool SetAction(const Action& action, RenameDlg* dialog) {
+  return ui_set_action(kDevice, action.component, static_cast<int>(action.reason), action.callback, dialog, kEnd) == 0;
+}
+
+void RemoveAction(const Action& action) {
+  ui_remove_action(kDevice, action.component, static_cast<int>(action.reason), action.callback);
+}
+
+void SelectName() {
+  constexpr std::intptr_t kStart = 0;
+  constexpr std::intptr_t kTextEnd = oxecad_ui::toolkit::kEndOfText;
+  ui_do_operation(kDevice, kName, static_cast<int>(Operation::SelectText), kStart, kTextEnd, kEnd);
 }
 
 }  // namespace
@@ -80,54 +96,36 @@ RenameDlg& RenameDlg::operator=(const RenameDlg&) = default;
 
 RenameDlg::~RenameDlg() = default;
 
-bool RenameDlg::IsAccepted() const {
-  return m_accepted;
-}
+bool RenameDlg::IsAccepted() const { return m_accepted; }
 
-const std::wstring& RenameDlg::GetNewName() const {
-  return m_newName;
-}
+const std::wstring& RenameDlg::GetNewName() const { return m_newName; }
 
-void RenameDlg::SetNewName(const std::wstring& name) {
-  m_newName = name;
-}
+void RenameDlg::SetNewName(const std::wstring& name) { m_newName = name; }
 
-Mainframe* RenameDlg::GetParent() const {
-  return m_parent;
-}
+Mainframe* RenameDlg::GetParent() const { return m_parent; }
 
-bool RenameDlg::Open() {
+bool RenameDlg::Run() {
+  m_accepted = false;
   if (!DeviceStands() || !Put(kName, ComponentAttribute::Text, m_newName.c_str()) ||
       !Put("Help", ComponentAttribute::Shown, m_help.empty() ? 0 : 1)) {
     return false;
   }
-  for (const Action& action : Callbacks::kActions) {
-    if (ui_set_action(kDevice, action.component, static_cast<int>(action.reason), action.callback, this, kEnd) != 0) {
-      return false;
-    }
-  }
-  if (ui_manage_device(kDevice) != 0) return false;
+  // The dialog may go before the next run: nothing of it stays behind.
+  const auto set = std::find_if_not(std::begin(Callbacks::kActions), std::end(Callbacks::kActions),
+                                    [this](const Action& action) { return SetAction(action, this); });
+  if (set == std::end(Callbacks::kActions)) ShowUntilClosed();
+  std::for_each(std::begin(Callbacks::kActions), set, RemoveAction);
+  return m_accepted;
+}
 
+void RenameDlg::ShowUntilClosed() {
+  if (ui_manage_device(kDevice) != 0) return;
   // How the dialog opens is a comfort: it works as well without.
   Put(kDevice, ComponentAttribute::DefaultButton, "OK");
   Put(kDevice, ComponentAttribute::Focus, kName);
-  if (m_flag) {
-    constexpr std::intptr_t kStart = 0;
-    constexpr std::intptr_t kTextEnd = oxecad_ui::toolkit::kEndOfText;
-    ui_do_operation(kDevice, kName, static_cast<int>(Operation::SelectText), kStart, kTextEnd, kEnd);
-  }
-  return true;
-}
-
-bool RenameDlg::Run() {
-  m_accepted = false;
-  if (Open()) ui_activate_device(kDevice);
-  // The dialog may go before the next run: nothing of it stays behind.
-  for (const Action& action : Callbacks::kActions) {
-    ui_remove_action(kDevice, action.component, static_cast<int>(action.reason), action.callback);
-  }
+  if (m_flag) SelectName();
+  ui_activate_device(kDevice);
   ui_unmanage_device(kDevice);
-  return m_accepted;
 }
 
 void RenameDlg::ClickOK() {
@@ -138,14 +136,10 @@ void RenameDlg::ClickOK() {
   Close();
 }
 
-void RenameDlg::Close() {
-  ui_exit_device(const_cast<char*>(kDevice), nullptr);
-}
+void RenameDlg::Close() { ui_exit_device(const_cast<char*>(kDevice), nullptr); }
 
 void RenameDlg::NameChanged() {}
 
-void RenameDlg::ClickHelp() {
-  ShowHelp(m_help);
-}
+void RenameDlg::ClickHelp() { ShowHelp(m_help); }
 
 }  // namespace oxcore

@@ -52,7 +52,7 @@ class OXECAD_PLATFORM_EXPORT RenameDlg {
  private:
   struct Callbacks;
 
-  bool Open();
+  void ShowUntilClosed();
 
   bool m_flag;
   Mainframe* m_parent;

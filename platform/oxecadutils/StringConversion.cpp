@@ -39,12 +39,8 @@ std::string::const_iterator EndOfIllFormed(std::string::const_iterator from, std
   return from;
 }
 
-bool IsHighSurrogate(std::uint32_t unit) {
-  return unit >= 0xD800 && unit <= 0xDBFF;
-}
-bool IsLowSurrogate(std::uint32_t unit) {
-  return unit >= 0xDC00 && unit <= 0xDFFF;
-}
+bool IsHighSurrogate(std::uint32_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
+bool IsLowSurrogate(std::uint32_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
 
 }  // namespace
 
@@ -78,8 +74,6 @@ std::string WideStrToUtf8(const std::wstring& text) {
   return narrow;
 }
 
-std::wstring StringToWString(const std::string& text) {
-  return Utf8ToWideStr(text);
-}
+std::wstring StringToWString(const std::string& text) { return Utf8ToWideStr(text); }
 
 }  // namespace oxecadutils

@@ -29,21 +29,13 @@ int FileOperations::OpenFolder(const std::string& path) {
   return ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
 }
 
-ssize_t FileOperations::Read(int file, void* buffer, std::size_t size) {
-  return ::read(file, buffer, size);
-}
+ssize_t FileOperations::Read(int file, void* buffer, std::size_t size) { return ::read(file, buffer, size); }
 
-ssize_t FileOperations::Write(int file, const void* data, std::size_t size) {
-  return ::write(file, data, size);
-}
+ssize_t FileOperations::Write(int file, const void* data, std::size_t size) { return ::write(file, data, size); }
 
-int FileOperations::Flush(int file) {
-  return ::fsync(file);
-}
+int FileOperations::Flush(int file) { return ::fsync(file); }
 
-int FileOperations::Close(int file) {
-  return ::close(file);
-}
+int FileOperations::Close(int file) { return ::close(file); }
 
 int FileOperations::Rename(const std::string& from, const std::string& to) {
   return std::rename(from.c_str(), to.c_str());
@@ -61,12 +53,8 @@ int FileOperations::RenameToNew(const std::string& from, const std::string& to) 
   return std::rename(from.c_str(), to.c_str());
 }
 
-int FileOperations::Remove(const std::string& path) {
-  return ::unlink(path.c_str());
-}
+int FileOperations::Remove(const std::string& path) { return ::unlink(path.c_str()); }
 
-int FileOperations::MakeFolder(const std::string& path) {
-  return ::mkdir(path.c_str(), S_IRWXU);
-}
+int FileOperations::MakeFolder(const std::string& path) { return ::mkdir(path.c_str(), S_IRWXU); }
 
 }  // namespace oxk

@@ -1,6 +1,6 @@
 #include <oxk/Preferences.h>
 
-#include <oxk/PreferencesStore.h>
+#include <oxk/detail/PreferencesStore.h>
 
 namespace oxk {
 
@@ -8,9 +8,7 @@ Preferences::Preferences(PreferencesStore& store) : m_store(store) {}
 
 Preferences::~Preferences() = default;
 
-bool Preferences::ZeroReferenceCountHook() {
-  return false;
-}
+bool Preferences::ZeroReferenceCountHook() { return false; }
 
 bool Preferences::GetString(const oxkutils::Symbol& key, std::string& value, const char* fallback) const {
   if (auto stored = m_store.Read(key.c_str())) {

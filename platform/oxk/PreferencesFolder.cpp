@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <vector>
 
-#include <oxk/PreferencesStore.h>
+#include <oxk/detail/PreferencesStore.h>
 
 namespace oxk {
 namespace {

@@ -1,6 +1,6 @@
 #include <oxk/World.h>
 
-#include <oxk/PreferencesStore.h>
+#include <oxk/detail/PreferencesStore.h>
 
 namespace oxk {
 
@@ -8,9 +8,7 @@ World::World() = default;
 
 World::~World() = default;
 
-bool World::ZeroReferenceCountHook() {
-  return false;
-}
+bool World::ZeroReferenceCountHook() { return false; }
 
 oxkutils::SmartPtr<World> World::GetWorld() {
   static World& world = *new World;
@@ -23,8 +21,6 @@ oxkutils::SmartPtr<Preferences> World::GetPreferences() {
   return &preferences;
 }
 
-void World::SaveAndApplyPreferences() {
-  PreferencesStore::Get().Save();
-}
+void World::SaveAndApplyPreferences() { PreferencesStore::Get().Save(); }
 
 }  // namespace oxk

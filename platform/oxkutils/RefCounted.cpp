@@ -8,19 +8,13 @@ RefCounted::RefCounted() noexcept = default;
 
 RefCounted::RefCounted(const RefCounted&) noexcept {}
 
-RefCounted& RefCounted::operator=(const RefCounted&) noexcept {
-  return *this;
-}
+RefCounted& RefCounted::operator=(const RefCounted&) noexcept { return *this; }
 
 RefCounted::~RefCounted() = default;
 
-bool RefCounted::ZeroReferenceCountHook() {
-  return true;
-}
+bool RefCounted::ZeroReferenceCountHook() { return true; }
 
-void RefCounted::AddReference() const noexcept {
-  m_references.fetch_add(1, std::memory_order_relaxed);
-}
+void RefCounted::AddReference() const noexcept { m_references.fetch_add(1, std::memory_order_relaxed); }
 
 void RefCounted::RemoveReference() const {
   const long before = m_references.fetch_sub(1, std::memory_order_acq_rel);
@@ -28,8 +22,6 @@ void RefCounted::RemoveReference() const {
   if (before == 1 && const_cast<RefCounted*>(this)->ZeroReferenceCountHook()) delete this;
 }
 
-long RefCounted::GetReferenceCount() const noexcept {
-  return m_references.load(std::memory_order_relaxed);
-}
+long RefCounted::GetReferenceCount() const noexcept { return m_references.load(std::memory_order_relaxed); }
 
 }  // namespace oxkutils

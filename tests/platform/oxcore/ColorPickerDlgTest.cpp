@@ -26,9 +26,7 @@ class ColorPickerDlgTest : public testing::Test {
 
 }  // namespace
 
-TEST_F(ColorPickerDlgTest, IsCancelledWithoutAnAnswer) {
-  EXPECT_EQ(Show(0x00336699), 0xFFFFFFFFu);
-}
+TEST_F(ColorPickerDlgTest, IsCancelledWithoutAnAnswer) { EXPECT_EQ(Show(0x00336699), 0xFFFFFFFFu); }
 
 TEST_F(ColorPickerDlgTest, TakesTheAnswersInTheirOrder) {
   for (const unsigned int color : {0x000000FFu, 0xFFFFFFFFu, 0u}) QueueColorAnswer(color);

@@ -19,9 +19,7 @@ namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
 
-bool IsSurrogate(std::uint32_t value) {
-  return value >= 0xD800 && value <= 0xDFFF;
-}
+bool IsSurrogate(std::uint32_t value) { return value >= 0xD800 && value <= 0xDFFF; }
 
 // The encodings by their definition: the expected values of the properties below.
 std::string Utf8Of(char32_t c) {
@@ -98,9 +96,7 @@ struct Row {
 class WellFormed : public testing::TestWithParam<Row> {};
 class IllFormed : public testing::TestWithParam<Row> {};
 
-std::string RowName(const testing::TestParamInfo<Row>& info) {
-  return info.param.name;
-}
+std::string RowName(const testing::TestParamInfo<Row>& info) { return info.param.name; }
 
 }  // namespace
 

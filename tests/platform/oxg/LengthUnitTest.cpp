@@ -36,9 +36,7 @@ struct Row {
 
 class Conversion : public testing::TestWithParam<Row> {};
 
-std::string RowName(const testing::TestParamInfo<Row>& info) {
-  return info.param.name;
-}
+std::string RowName(const testing::TestParamInfo<Row>& info) { return info.param.name; }
 
 rc::Gen<unsigned char> AnyUnit() {
   return rc::gen::elementOf(std::vector<unsigned char>(std::begin(kUnits), std::end(kUnits)));

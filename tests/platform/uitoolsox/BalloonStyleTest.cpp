@@ -52,9 +52,7 @@ TEST(BalloonStyle, IsRefusedForAnythingButAQuadrant) {
   }
 }
 
-TEST(BalloonStyle, IsRefusedWithoutAPlaceForIt) {
-  EXPECT_NE(uit_SkinGetBalloonDlgStyle(1, nullptr, 0), 0);
-}
+TEST(BalloonStyle, IsRefusedWithoutAPlaceForIt) { EXPECT_NE(uit_SkinGetBalloonDlgStyle(1, nullptr, 0), 0); }
 
 TEST(BalloonStyle, IsTheSameHandleEachTime) {
   EXPECT_EQ(StyleOf(9), StyleOf(9));

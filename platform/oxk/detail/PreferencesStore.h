@@ -1,14 +1,14 @@
 /// \file
-/// The preferences of the process and the file that they belong to. Used inside this library only.
-#ifndef OXECAD_OXK_PREFERENCESSTORE_H
-#define OXECAD_OXK_PREFERENCESSTORE_H
+/// The preferences of the process and the file that they belong to.
+#ifndef OXECAD_OXK_DETAIL_PREFERENCESSTORE_H
+#define OXECAD_OXK_DETAIL_PREFERENCESSTORE_H
 
 #include <mutex>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
 
-#include <oxk/PreferencesFile.h>
+#include <oxk/detail/PreferencesFile.h>
 
 namespace oxk {
 

@@ -1,4 +1,4 @@
-#include <oxk/PreferencesStore.h>
+#include <oxk/detail/PreferencesStore.h>
 
 #include <oxk/PreferencesFolder.h>
 

@@ -1,4 +1,4 @@
-#include <oxk/FileTransfer.h>
+#include <oxk/detail/FileTransfer.h>
 
 #include <cerrno>
 #include <system_error>
@@ -100,8 +100,6 @@ int ReplaceFile(FileOperations& operations, const std::string& folder, const std
   return FlushFolder(operations, folder);
 }
 
-std::string ErrorText(int error) {
-  return std::generic_category().message(error);
-}
+std::string ErrorText(int error) { return std::generic_category().message(error); }
 
 }  // namespace oxk

@@ -1,7 +1,7 @@
 /// \file
-/// The file in which preferences outlive the process. Used inside this library only.
-#ifndef OXECAD_OXK_PREFERENCESFILE_H
-#define OXECAD_OXK_PREFERENCESFILE_H
+/// The file in which preferences outlive the process.
+#ifndef OXECAD_OXK_DETAIL_PREFERENCESFILE_H
+#define OXECAD_OXK_DETAIL_PREFERENCESFILE_H
 
 #include <nlohmann/json.hpp>
 #include <string>

@@ -1,4 +1,4 @@
-#include <oxk/PreferencesFile.h>
+#include <oxk/detail/PreferencesFile.h>
 
 #include <signal.h>
 #include <unistd.h>
@@ -10,8 +10,8 @@
 #include <optional>
 #include <system_error>
 
-#include <oxk/FileTransfer.h>
 #include <oxk/PreferencesFolder.h>
+#include <oxk/detail/FileTransfer.h>
 
 namespace oxk {
 namespace {

@@ -1,7 +1,7 @@
 /// \file
-/// Reading and replacing whole files. Used inside this library only. Results are 0 or an `errno` code.
-#ifndef OXECAD_OXK_FILETRANSFER_H
-#define OXECAD_OXK_FILETRANSFER_H
+/// Reading and replacing whole files. Results are 0 or an `errno` code.
+#ifndef OXECAD_OXK_DETAIL_FILETRANSFER_H
+#define OXECAD_OXK_DETAIL_FILETRANSFER_H
 
 #include <cstddef>
 #include <string>
