@@ -86,6 +86,8 @@ struct Call {
   ui_callback callback = nullptr;  ///< the three functions for actions
   void* client_data = nullptr;     ///< the same; `ExitDevice`: the device's name
   void* value = nullptr;  ///< the same: the callback's further value; `ReleaseMemory`, `BalloonStyle`: the address
+  /// For functions of other libraries: gives their answer. `BuiltIn()` calls it.
+  int (*answer)(const Call& call) = nullptr;
 
   /// The positional slots, one letter of `positional_shape` each.
   const char* positional_shape = "";

@@ -1,11 +1,9 @@
-#include <uiox/CodeIndex.h>
 #include <uiox/Codes.h>
+#include <uiox/detail/CodeIndex.h>
 
 namespace uiox {
 
-const CodeInfo* FindCode(CodeGroup group, int code) {
-  return detail::FindRow(group, code);
-}
+const CodeInfo* FindCode(CodeGroup group, int code) { return detail::FindRow(group, code); }
 
 const char* CodeName(CodeGroup group, int code) {
   const CodeInfo* row = detail::FindRow(group, code);

@@ -15,6 +15,9 @@
 namespace uiox {
 
 class Suite;
+namespace detail {
+class WidgetIndex;
+}
 
 /// A device is a component too: on the wire it is the component of its own name.
 class OXECAD_UIOX_API Device : public Widget {
@@ -48,23 +51,31 @@ class OXECAD_UIOX_API Device : public Widget {
   /// Attributes 29 and 234: a component's name, or empty. Refused for a name that is no component.
   const std::string& Focus() const { return focus_; }
   bool SetFocus(std::string_view component);
+  /// The component that the user's focus came to last and has not left; the program moves `Focus` alone.
+  const std::string& UserFocus() const { return user_focus_; }
+  void SetUserFocus(std::string_view component) { user_focus_ = component; }
   const std::string& DefaultButton() const { return default_button_; }
   bool SetDefaultButton(std::string_view component);
 
  private:
+  friend class Suite;
   friend class TreeWidget;
-  friend class ResourceLoader;
-  class Index;
+  friend class Widget;
+  friend class detail::ResourceLoader;
   Widget* Adopt(std::unique_ptr<Widget> widget, Widget* panel);
+  void Remember(Widget& widget);
+  void Forget(Widget& widget) noexcept;
 
   Suite& suite_;
   std::string resource_;
   std::string focus_;
+  std::string user_focus_;
   std::string default_button_;
   bool on_screen_ = false;
+  bool announced_ = false;  // observers know of it
   std::vector<std::unique_ptr<Widget>> owned_;
   std::vector<Widget*> components_;
-  std::unique_ptr<Index> index_;
+  std::unique_ptr<detail::WidgetIndex> index_;
 };
 
 }  // namespace uiox

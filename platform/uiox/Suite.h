@@ -33,6 +33,11 @@ class OXECAD_UIOX_API Suite {
   /// Null when there is none. Constant time.
   Device* FindDevice(std::string_view name) const;
   Widget* Find(std::string_view device, std::string_view component) const;
+  /// The same for names that end with a 0 (null: not found). Calls that follow each other mostly name the same
+  /// component.
+  Widget* FindAgain(const char* device, const char* component);
+  /// A component has ended: what was found is not looked at again.
+  void ForgetFound();
   /// Makes a device from a resource on the path. Null, and why, when there is no such resource, it is wrong, or the
   /// name is in use.
   Device* CreateDevice(std::string_view resource, std::string_view name, std::string* why = nullptr);
@@ -74,6 +79,7 @@ class OXECAD_UIOX_API Suite {
   /// if that ends nothing, to close the window; if that ends nothing either, the run ends with `kNoResult`. Never
   /// waits.
   int RunModal(Device& device);
+  bool HasModalRun(const Device& device) const;
   /// Ends the innermost run of a device; false when there is none.
   bool EndModalRun(std::string_view device, int result);
   /// Whether the innermost run of the device has been ended and waits for its loop to return; true without a run.
@@ -91,10 +97,16 @@ class OXECAD_UIOX_API Suite {
   Front* CurrentFront() const;
   void AddObserver(SuiteObserver* observer);
   void RemoveObserver(SuiteObserver* observer);
-  /// Calls a member of every observer, for the suite's own parts.
+  std::vector<SuiteObserver*> Observers() const;
+  bool HasObservers() const;
+  bool IsObserver(const SuiteObserver* observer) const;
+  /// Calls a member of every observer, for the suite's own parts. Observers may come and go meanwhile.
   template <class... Parameters, class... Arguments>
   void Tell(void (SuiteObserver::*event)(Parameters...), Arguments&&... arguments) {
-    ForEachObserver([&](SuiteObserver& observer) { (observer.*event)(arguments...); });
+    if (!HasObservers()) return;
+    for (SuiteObserver* observer : Observers()) {
+      if (IsObserver(observer)) (observer->*event)(arguments...);
+    }
   }
 
   /// As at the start of the process: no device, no defined image or type, no queue, no path, the preset screen. Front
@@ -105,7 +117,7 @@ class OXECAD_UIOX_API Suite {
   struct State;
   Suite();
   ~Suite();
-  void ForEachObserver(const std::function<void(SuiteObserver&)>& visit);
+  void PlayUser(Device& device);
 
   std::unique_ptr<State> state_;
 };

@@ -30,6 +30,9 @@ struct NewNode {
   void* user_data = nullptr;
 };
 
+/// What the user did last, and to which node. A mark goes with its node.
+enum class NodeMark { Activated, Toggled, Checked, SelectedCell };
+
 /// The nodes of one tree, their order, their attributes and cells, and the selection.
 ///
 /// Names are unique in the tree. Finding a node by name takes constant time; adding, moving, removing a leaf, and the
@@ -120,6 +123,14 @@ class OXECAD_UIOX_API TreeStore {
   /// Makes these nodes, in this order, the selection. Nodes that stay in it send no `NodeChanged`.
   void Select(const std::vector<NodeId>& nodes);
 
+  // --- Marks ---------------------------------------------------------------------------------------------------------
+
+  /// `kNoNode` when there is none.
+  NodeId Marked(NodeMark mark) const;
+  void SetMark(NodeMark mark, NodeId node);
+  CellPlace SelectedCell() const;
+  void SetSelectedCell(CellPlace cell);
+
   // --- Cells ---------------------------------------------------------------------------------------------------------
 
   std::size_t Columns() const;
@@ -149,7 +160,14 @@ class OXECAD_UIOX_API TreeStore {
   const NodeTable& Table() const { return *table_; }
 
  private:
+  template <class... Parameters, class... Arguments>
+  void Tell(void (TreeObserver::*event)(Parameters...), Arguments... arguments) const;
+  void TellChanged(bool changed, NodeId node, NodeChanges changes) const;
+  void EmptyCell(ControlId control);
+
   std::unique_ptr<NodeTable> table_;
+  std::vector<TreeObserver*> observers_;
+  ColumnIndex selected_column_ = kNoColumn;
 };
 
 }  // namespace uiox

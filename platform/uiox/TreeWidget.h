@@ -48,18 +48,18 @@ class OXECAD_UIOX_API TreeWidget : public Widget {
   ColumnIndex FindColumn(std::string_view name) const;
 
   /// Attributes 53, 175 and 346; `kNoNode` when there is none or it has been removed.
-  NodeId ActivatedNode() const;
-  NodeId ToggledNode() const;
-  NodeId CheckedNode() const;
-  void SetActivatedNode(NodeId node);
-  void SetToggledNode(NodeId node);
-  void SetCheckedNode(NodeId node);
+  NodeId ActivatedNode() const { return store_.Marked(NodeMark::Activated); }
+  NodeId ToggledNode() const { return store_.Marked(NodeMark::Toggled); }
+  NodeId CheckedNode() const { return store_.Marked(NodeMark::Checked); }
+  void SetActivatedNode(NodeId node) { store_.SetMark(NodeMark::Activated, node); }
+  void SetToggledNode(NodeId node) { store_.SetMark(NodeMark::Toggled, node); }
+  void SetCheckedNode(NodeId node) { store_.SetMark(NodeMark::Checked, node); }
   /// Attribute 267; 2: one node at a time.
   int SelectionKind() const { return selection_kind_; }
   void SetSelectionKind(int kind) { selection_kind_ = kind; }
   /// Attributes 232 and 233.
-  CellPlace SelectedCell() const;
-  void SetSelectedCell(CellPlace cell);
+  CellPlace SelectedCell() const { return store_.SelectedCell(); }
+  void SetSelectedCell(CellPlace cell) { store_.SetSelectedCell(cell); }
 
   /// Makes a cell control, or null: the class is neither CheckButton nor OptionMenu, or the device has a component of
   /// the name.
@@ -74,19 +74,11 @@ class OXECAD_UIOX_API TreeWidget : public Widget {
   std::vector<Widget*> Controls() const;
 
  private:
-  class Follower;
-  void Forget(NodeId node);
-
   TreeStyle style_;
   TreeStore store_;
-  NodeId activated_ = kNoNode;
-  NodeId toggled_ = kNoNode;
-  NodeId checked_ = kNoNode;
-  CellPlace selected_cell_;
   int selection_kind_ = 0;
   std::vector<std::unique_ptr<Widget>> controls_;  // by id - 1; null: free
   std::vector<ControlId> free_controls_;
-  std::unique_ptr<Follower> follower_;
 };
 
 }  // namespace uiox

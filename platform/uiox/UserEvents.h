@@ -59,6 +59,8 @@ OXECAD_UIOX_API bool ChooseOption(Widget& menu, std::string_view item);
 /// The text of an entry field after one keystroke or one paste: reason 8. False when it is the same.
 OXECAD_UIOX_API bool EnterText(Widget& field, std::wstring_view text);
 /// The keyboard focus comes to the component: the component that had it loses it first (reason 32), then reason 31.
+/// Also after the program has moved the focus there (attribute 29), which calls nothing by itself. False when it is
+/// there.
 OXECAD_UIOX_API bool FocusIn(Widget& widget);
 OXECAD_UIOX_API bool FocusOut(Widget& widget);
 

@@ -19,6 +19,10 @@ namespace uiox {
 
 class Device;
 class TreeWidget;
+namespace detail {
+class LayoutRun;
+class ResourceLoader;
+}  // namespace detail
 
 enum class WidgetClass : std::uint8_t {
   Dialog,  ///< a device itself
@@ -100,7 +104,7 @@ class OXECAD_UIOX_API Widget {
   /// 0x00BBGGRR; 0x00FFFFFF by default.
   std::uint32_t BackgroundColor() const;
   void SetBackgroundColor(std::uint32_t color);
-  /// Attribute 519 as it was given; `uit_SkinGetBalloonDlgStyle` gives the quadrant: 1, 3, 7 or 9. 0: none.
+  /// Attribute 519 as it was given: a handle of the skin library. 0: none.
   std::uintptr_t BalloonStyle() const;
   void SetBalloonStyle(std::uintptr_t style);
 
@@ -118,13 +122,20 @@ class OXECAD_UIOX_API Widget {
 
   /// Relative to the device; of a device on the screen. A front that knows better answers on the wire (`Front`).
   const Rect& Geometry() const { return geometry_; }
+  /// The layout leaves it so from then on.
   void SetGeometry(const Rect& geometry);
+  /// The same for a part of it; `kKeepSize` keeps what is there.
+  void MoveAndResize(int x, int y, int width, int height);
 
   /// Components inside, in order; of a panel or a device.
   const std::vector<Widget*>& Children() const;
   Arrangement Layout() const;
   /// A property that the resource gives to a front ("properties"), or null.
   const std::string* Property(std::string_view key) const;
+
+  /// Answers of the wire that stay the widget's: good until it is asked again or the names change.
+  enum class NameList { Images, ItemNames, ItemImages };
+  const char* const* LentNames(NameList list, int& count);
 
   /// Of a cell control: the tree and its number there; else null and `kNoControl`.
   TreeWidget* ControlOf() const { return control_of_; }
@@ -133,7 +144,8 @@ class OXECAD_UIOX_API Widget {
  private:
   friend class Device;
   friend class TreeWidget;
-  friend class ResourceLoader;
+  friend class detail::ResourceLoader;
+  friend class detail::LayoutRun;
   struct Details;
 
   Details& Need();

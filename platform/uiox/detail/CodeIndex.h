@@ -1,7 +1,7 @@
 /// \file
 /// The tables of Toolkit.h at compile time, each with an index from code to row.
-#ifndef OXECAD_UIOX_CODEINDEX_H
-#define OXECAD_UIOX_CODEINDEX_H
+#ifndef OXECAD_UIOX_DETAIL_CODEINDEX_H
+#define OXECAD_UIOX_DETAIL_CODEINDEX_H
 
 #include <uicomps/toolkit/Toolkit.h>
 #include <uiox/Codes.h>

@@ -1,0 +1,204 @@
+// The toolkit's C functions: each turns its arguments into a `Call` and hands it on.
+
+#include <uicomps/toolkit/Toolkit.h>
+#include <uiox/Backend.h>
+#include <uiox/Export.h>
+#include <uiox/wire/Decode.h>
+
+#include <cstdarg>
+
+namespace uiox {
+
+namespace {
+
+Backend* g_backend = nullptr;
+
+Call ComponentCall(Function function, const char* device, const char* component, int code = 0) {
+  Call call(function);
+  call.device = device;
+  call.component = component;
+  call.code = code;
+  return call;
+}
+
+Call DeviceCall(Function function, const char* device) { return ComponentCall(function, device, nullptr); }
+
+int AttributeCall(Function function, const char* device, const char* component, va_list* slots) {
+  Call call = ComponentCall(function, device, component);
+  call.option_group = CodeGroup::ComponentAttribute;
+  wire::Decoder(call, slots).ReadOptions(function == Function::Retrieve);
+  return Dispatch(call);
+}
+
+int ActionCall(Function function, const char* device, const char* component, int reason, ui_callback callback,
+               void* client_data, void* value) {
+  Call call = ComponentCall(function, device, component, reason);
+  call.callback = callback;
+  call.client_data = client_data;
+  call.value = value;
+  return Dispatch(call);
+}
+
+}  // namespace
+
+Backend* SetBackend(Backend* backend) {
+  Backend* before = g_backend;
+  g_backend = backend;
+  return before;
+}
+
+int Dispatch(Call& call) { return g_backend ? g_backend->Handle(call) : BuiltIn().Handle(call); }
+
+}  // namespace uiox
+
+using uiox::Call;
+using uiox::CodeGroup;
+using uiox::Function;
+
+OXECAD_UIOX_API int ui_do_operation(const char* device, const char* component, int operation, ...) {
+  Call call = uiox::ComponentCall(Function::DoOperation, device, component, operation);
+  const uiox::CodeInfo* row = uiox::detail::FindRow(CodeGroup::Operation, operation);
+  if (!row) {
+    call.fault = uiox::Fault::UnknownOperation;
+    call.fault_code = operation;
+    return uiox::Dispatch(call);
+  }
+  call.option_group = row->options;
+  va_list slots;
+  va_start(slots, operation);
+  uiox::wire::Decoder(call, &slots).ReadShape(row->shape);
+  va_end(slots);
+  return uiox::Dispatch(call);
+}
+
+OXECAD_UIOX_API int ui_retrieve(const char* device, const char* component, ...) {
+  va_list slots;
+  va_start(slots, component);
+  const int result = uiox::AttributeCall(Function::Retrieve, device, component, &slots);
+  va_end(slots);
+  return result;
+}
+
+OXECAD_UIOX_API int ui_modify(const char* device, const char* component, ...) {
+  va_list slots;
+  va_start(slots, component);
+  const int result = uiox::AttributeCall(Function::Modify, device, component, &slots);
+  va_end(slots);
+  return result;
+}
+
+OXECAD_UIOX_API int ui_add_action(const char* device, const char* component, int reason, ui_callback callback,
+                                  void* client_data, ...) {
+  va_list slots;
+  va_start(slots, client_data);
+  void* value = va_arg(slots, void*);
+  va_end(slots);
+  return uiox::ActionCall(Function::AddAction, device, component, reason, callback, client_data, value);
+}
+
+OXECAD_UIOX_API int ui_remove_action(const char* device, const char* component, int reason, ui_callback callback) {
+  return uiox::ActionCall(Function::RemoveAction, device, component, reason, callback, nullptr, nullptr);
+}
+
+OXECAD_UIOX_API int ui_set_action(const char* device, const char* component, int reason, ui_callback callback,
+                                  void* client_data, ...) {
+  va_list slots;
+  va_start(slots, client_data);
+  void* value = va_arg(slots, void*);
+  va_end(slots);
+  return uiox::ActionCall(Function::SetAction, device, component, reason, callback, client_data, value);
+}
+
+OXECAD_UIOX_API int ui_free(int attribute, ...) {
+  Call call(Function::Free);
+  call.option_group = CodeGroup::NodeAttribute;
+  call.code = attribute;
+  va_list slots;
+  va_start(slots, attribute);
+  uiox::wire::Decoder decoder(call, &slots);
+  const uiox::CodeInfo* row = uiox::detail::FindRow(CodeGroup::NodeAttribute, attribute);
+  if (!row) {
+    call.fault = uiox::Fault::UnknownOption;
+    call.fault_code = attribute;
+  } else {
+    const uiox::Slot value = decoder.Next();
+    const uiox::Slot array = row->shape[0] == 'l' ? decoder.Next() : uiox::Slot{0};
+    call.options[call.option_count++] = {attribute, row->shape[0], value, array};
+    if (decoder.NextCode() != 0) call.fault = uiox::Fault::MissingEnd;
+  }
+  va_end(slots);
+  return uiox::Dispatch(call);
+}
+
+OXECAD_UIOX_API int ui_create_search_path(int kind, const char* context) {
+  Call call(Function::CreateSearchPath);
+  call.code = kind;
+  call.resource = context;
+  return uiox::Dispatch(call);
+}
+
+OXECAD_UIOX_API int ui_create_device_ext(const char* resource, const char* device, int search_path) {
+  Call call = uiox::DeviceCall(Function::CreateDeviceExt, device);
+  call.resource = resource;
+  call.search_path = search_path;
+  return uiox::Dispatch(call);
+}
+
+OXECAD_UIOX_API int ui_create_device(const char* resource, const char* device) {
+  Call call = uiox::DeviceCall(Function::CreateDevice, device);
+  call.resource = resource;
+  return uiox::Dispatch(call);
+}
+
+OXECAD_UIOX_API int ui_manage_device(const char* device) {
+  Call call = uiox::DeviceCall(Function::ManageDevice, device);
+  return uiox::Dispatch(call);
+}
+
+OXECAD_UIOX_API int ui_activate_device(const char* device) {
+  Call call = uiox::DeviceCall(Function::ActivateDevice, device);
+  return uiox::Dispatch(call);
+}
+
+OXECAD_UIOX_API int ui_unmanage_device(const char* device) {
+  Call call = uiox::DeviceCall(Function::UnmanageDevice, device);
+  return uiox::Dispatch(call);
+}
+
+OXECAD_UIOX_API int ui_exit_device(void* client_data, void* value) {
+  Call call = uiox::DeviceCall(Function::ExitDevice, static_cast<const char*>(client_data));
+  call.client_data = client_data;
+  call.value = value;
+  return uiox::Dispatch(call);
+}
+
+OXECAD_UIOX_API int ui_global_inquire(int code, ...) {
+  Call call(Function::GlobalInquire);
+  call.option_group = CodeGroup::GlobalCode;
+  va_list slots;
+  va_start(slots, code);
+  uiox::wire::Decoder(call, &slots).ReadOptionsFrom(code, true);
+  va_end(slots);
+  return uiox::Dispatch(call);
+}
+
+OXECAD_UIOX_API int ui_global_do_operation(int operation, ...) {
+  Call call(Function::GlobalDoOperation);
+  call.code = operation;
+  const uiox::CodeInfo* row = uiox::detail::FindRow(CodeGroup::GlobalOperation, operation);
+  if (!row) {
+    call.fault = uiox::Fault::UnknownOperation;
+    call.fault_code = operation;
+    return uiox::Dispatch(call);
+  }
+  va_list slots;
+  va_start(slots, operation);
+  uiox::wire::Decoder(call, &slots).ReadShape(row->shape);
+  va_end(slots);
+  return uiox::Dispatch(call);
+}
+
+OXECAD_UIOX_API int ui_beep(void) {
+  Call call(Function::Beep);
+  return uiox::Dispatch(call);
+}

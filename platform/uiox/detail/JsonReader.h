@@ -1,0 +1,58 @@
+/// \file
+/// Reads JSON objects strictly and says where something is wrong.
+#ifndef OXECAD_UIOX_DETAIL_JSONREADER_H
+#define OXECAD_UIOX_DETAIL_JSONREADER_H
+
+#include <nlohmann/json.hpp>
+
+#include <functional>
+#include <initializer_list>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace uiox::detail {
+
+/// What is wrong with a description, and where ("components[2].class: …").
+class BadDescription : public std::runtime_error {
+ public:
+  BadDescription(const std::string& where, const std::string& what)
+      : std::runtime_error(where.empty() ? what : where + ": " + what) {}
+};
+
+/// One object of a description. Getters give the fallback for a key that is not there and throw `BadDescription` for a
+/// value of another kind.
+class JsonReader {
+ public:
+  /// `where` is empty for the outermost object.
+  JsonReader(const nlohmann::json& object, std::string where);
+
+  bool Has(const char* key) const { return object_.contains(key); }
+  std::string Text(const char* key, const char* fallback) const;
+  std::wstring Wide(const char* key) const;
+  bool Flag(const char* key, bool fallback) const;
+  /// Within the limits, both included.
+  int Number(const char* key, int fallback, int least, int most) const;
+  /// The object of that key; only where it is there.
+  JsonReader Object(const char* key) const;
+  /// Calls `visit(element, where)` for each element of the array of that key; not at all where it is not there.
+  void ForEach(const char* key, const std::function<void(const nlohmann::json&, const std::string&)>& visit) const;
+  /// Calls `visit(key, text)` for each entry of the object of that key, all of which are texts.
+  void ForEachText(const char* key, const std::function<void(const std::string&, const std::string&)>& visit) const;
+  /// Throws where the object has another key than these.
+  void AllowOnly(std::initializer_list<std::string_view> keys) const;
+  [[noreturn]] void Fail(const char* key, const std::string& what) const;
+
+ private:
+  std::string Where(const char* key) const { return where_.empty() ? key : where_ + '.' + key; }
+
+  const nlohmann::json& object_;
+  std::string where_;
+};
+
+/// UTF-8, as JSON texts are, to UTF-16 units, one in each `wchar_t`.
+std::wstring Widened(const std::string& utf8);
+
+}  // namespace uiox::detail
+
+#endif

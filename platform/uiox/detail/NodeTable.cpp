@@ -1,0 +1,274 @@
+#include <uiox/detail/NodeTable.h>
+#include <uiox/detail/WideCodec.h>
+
+#include <algorithm>
+#include <new>
+#include <vector>
+
+namespace uiox {
+
+using detail::BlockArena;
+using detail::LentAnswers;
+using detail::NodeBits;
+using detail::NodeRecord;
+using detail::WideCodec;
+
+// --- Shape -----------------------------------------------------------------------------------------------------------
+
+NodeId NodeTable::Add(const NewNode& node, NodeId parent, NodeId before) {
+  index_.Reserve();
+  const NodeId id = nodes_.Take();
+  try {
+    NodeRecord& record = nodes_[id];
+    record.name = NewName(node.name);
+    record.label = NewText(node.label);
+    record.user_data = node.user_data;
+    SetType(id, node.type);
+    SetInt(id, kFirst, node.first_int);
+    SetInt(id, kSecond, node.expanded);
+    SetInt(id, kThird, node.third_int);
+    SetSecondText(id, node.second_text);
+    children_.Insert(id, parent, before);
+  } catch (...) {
+    UndoAdd(id);
+    throw;
+  }
+  index_.Insert(detail::Hash(node.name), id);
+  ChildrenChanged(parent);
+  return id;
+}
+
+void NodeTable::UndoAdd(NodeId node) noexcept {
+  if (nodes_[node].name != BlockArena::kNone) blocks_.Free(nodes_[node].name, std::strlen(Name(node)) + 1);
+  nodes_[node].name = BlockArena::kNone;
+  Free(node);
+}
+
+void NodeTable::Remove(NodeId node) {
+  const NodeId parent = nodes_[node].parent;
+  if (parent == kTop && children_.Count(kTop) == 1) return Clear();
+  std::vector<NodeId> doomed{node};
+  for (std::size_t i = 0; i < doomed.size(); ++i) {
+    children_.ForEach(doomed[i], [&](NodeId child) { doomed.push_back(child); });
+  }
+  children_.Remove(node);
+  ChildrenChanged(parent);
+  for (const NodeId id : doomed) {
+    const std::string_view name = Name(id);
+    index_.Erase(detail::Hash(name), id);
+    blocks_.Free(nodes_[id].name, name.size() + 1);
+    Free(id);
+  }
+}
+
+/// What a node has besides its name and its place.
+void NodeTable::Free(NodeId node) noexcept {
+  NodeRecord& record = nodes_[node];
+  if ((record.bits & detail::kHasLent) != 0) lent_.Forget(node);
+  if ((record.bits & detail::kHasRare) != 0) {
+    FreeText(rare_[node].second_text);
+    rare_.erase(node);
+  }
+  if (record.selected != 0) selection_.Remove(node);
+  std::replace(std::begin(marks_), std::end(marks_), node, kNoNode);
+  FreeText(record.label);
+  cells_.Drop(node);
+  children_.Drop(node);
+  nodes_.Give(node);
+}
+
+void NodeTable::Clear() noexcept {
+  std::fill(std::begin(marks_), std::end(marks_), kNoNode);
+  selection_.Clear();
+  cells_.Clear();
+  rare_.clear();
+  lent_.Clear();
+  index_.Clear();
+  nodes_.Clear();
+  blocks_.Clear();
+}
+
+void NodeTable::Move(NodeId node, NodeId parent, NodeId before) {
+  // The place is taken first: there may be no memory for it. The node stands twice for a moment, so that it is told
+  // apart by a stand-in.
+  const NodeId former = nodes_[node].parent;
+  const NodeId guest = nodes_.Take();
+  try {
+    children_.Insert(guest, parent, before);
+  } catch (...) {
+    nodes_.Give(guest);
+    throw;
+  }
+  children_.Remove(node);
+  children_.Replace(guest, node);
+  nodes_.Give(guest);
+  ChildrenChanged(former);
+  ChildrenChanged(parent);
+}
+
+void NodeTable::ChildrenChanged(NodeId parent) noexcept {
+  if (HasBit(parent, detail::kHasLent)) lent_.ForgetChildren(parent);
+}
+
+// --- Texts -----------------------------------------------------------------------------------------------------------
+
+BlockArena::Handle NodeTable::NewName(std::string_view name) {
+  const BlockArena::Handle handle = blocks_.Allocate(name.size() + 1);
+  char* characters = blocks_.As<char>(handle);
+  std::copy(name.begin(), name.end(), characters);
+  characters[name.size()] = 0;
+  return handle;
+}
+
+BlockArena::Handle NodeTable::NewText(std::wstring_view text) {
+  if (text.empty()) return BlockArena::kNone;
+  const WideCodec codec(text);
+  const BlockArena::Handle handle = blocks_.Allocate(codec.Bytes());
+  codec.Write(blocks_.At(handle));
+  return handle;
+}
+
+void NodeTable::FreeText(BlockArena::Handle handle) noexcept {
+  if (handle != BlockArena::kNone) blocks_.Free(handle, WideCodec::Bytes(blocks_.At(handle)));
+}
+
+bool NodeTable::ReplaceText(BlockArena::Handle& handle, std::wstring_view text) {
+  if (handle == BlockArena::kNone ? text.empty() : WideCodec::Equals(blocks_.At(handle), text)) return false;
+  const WideCodec codec(text);
+  const std::size_t before = handle == BlockArena::kNone ? 0 : WideCodec::Bytes(blocks_.At(handle));
+  if (before != 0 && codec.Bytes() != 0 && before <= BlockArena::kLargestSmall &&
+      BlockArena::SameSize(before, codec.Bytes())) {
+    codec.Write(blocks_.At(handle));
+    return true;
+  }
+  const BlockArena::Handle replacement = NewText(text);
+  FreeText(handle);
+  handle = replacement;
+  return true;
+}
+
+bool NodeTable::SetLabel(NodeId node, std::wstring_view label) {
+  if (!ReplaceText(nodes_[node].label, label)) return false;
+  if (HasBit(node, detail::kHasLent)) lent_.ForgetText(node, LentAnswers::kLabel);
+  return true;
+}
+
+const void* NodeTable::SecondText(NodeId node) const {
+  const Rare* rare = FindRare(node);
+  return rare ? TextBlock(rare->second_text) : nullptr;
+}
+
+bool NodeTable::SetSecondText(NodeId node, std::wstring_view text) {
+  if (text.empty() && !FindRare(node)) return false;
+  if (!ReplaceText(NeedRare(node).second_text, text)) return false;
+  if (HasBit(node, detail::kHasLent)) lent_.ForgetText(node, LentAnswers::kSecondText);
+  return true;
+}
+
+// --- Values ----------------------------------------------------------------------------------------------------------
+
+bool NodeTable::SetType(NodeId node, TypeId type) {
+  if (Type(node) == type) return false;
+  constexpr std::uint32_t kFlags = (1u << detail::kFlagBits) - 1;
+  nodes_[node].bits = (nodes_[node].bits & kFlags) | type << detail::kFlagBits;
+  return true;
+}
+
+bool NodeTable::SetBit(NodeId node, NodeBits bit, bool on) {
+  if (HasBit(node, bit) == on) return false;
+  nodes_[node].bits ^= bit;
+  return true;
+}
+
+bool NodeTable::SetUserData(NodeId node, void* data) {
+  if (nodes_[node].user_data == data) return false;
+  nodes_[node].user_data = data;
+  return true;
+}
+
+const NodeTable::Rare* NodeTable::FindRare(NodeId node) const {
+  return HasBit(node, detail::kHasRare) ? &rare_.find(node)->second : nullptr;
+}
+
+NodeTable::Rare& NodeTable::NeedRare(NodeId node) {
+  if (HasBit(node, detail::kHasRare)) return rare_.find(node)->second;
+  Rare rare;
+  for (const Int which : {kFirst, kSecond, kThird}) rare.ints[which] = CommonInt(node, which);
+  Rare& placed = rare_.emplace(node, rare).first->second;
+  nodes_[node].bits |= detail::kHasRare;
+  return placed;
+}
+
+int NodeTable::CommonInt(NodeId node, Int which) const {
+  if (which == kThird) return nodes_[node].selected != 0 ? 1 : 0;
+  return HasBit(node, which == kFirst ? detail::kFirstIntBit : detail::kExpandedBit) ? 1 : 0;
+}
+
+int NodeTable::GetInt(NodeId node, Int which) const {
+  const Rare* rare = FindRare(node);
+  return rare ? rare->ints[which] : CommonInt(node, which);
+}
+
+bool NodeTable::SetInt(NodeId node, Int which, int value) {
+  if (GetInt(node, which) == value) return false;
+  const bool common = value == 0 || value == 1;
+  if (!common) NeedRare(node);
+  if (which == kThird) {
+    const bool selected = nodes_[node].selected != 0;
+    if (value != 0 && !selected) selection_.Add(node);
+    if (value == 0 && selected) selection_.Remove(node);
+  } else {
+    SetBit(node, which == kFirst ? detail::kFirstIntBit : detail::kExpandedBit, value != 0);
+  }
+  if (HasBit(node, detail::kHasRare)) NeedRare(node).ints[which] = value;
+  return true;
+}
+
+// --- Answers ---------------------------------------------------------------------------------------------------------
+
+const char* const* NodeTable::LentChildren(NodeId node) {
+  const std::uint32_t count = children_.Count(node);
+  if (count == 0) return nullptr;
+  LentAnswers::Answers& answers = lent_.Of(node);
+  if (!answers.children) {
+    answers.children = std::make_unique<const char*[]>(count);
+    const char** name = answers.children.get();
+    children_.ForEach(node, [&](NodeId child) { *name++ = Name(child); });
+    nodes_[node].bits |= detail::kHasLent;
+  }
+  return answers.children.get();
+}
+
+const wchar_t* NodeTable::Lend(NodeId node, LentAnswers::Text which, const void* block) {
+  if (!block) return L"";
+  std::unique_ptr<wchar_t[]>& text = lent_.Of(node).texts[which];
+  if (!text) {
+    const std::size_t length = WideCodec::Length(block);
+    text = std::make_unique<wchar_t[]>(length + 1);
+    WideCodec::Read(block, text.get());
+    nodes_[node].bits |= detail::kHasLent;
+  }
+  return text.get();
+}
+
+const wchar_t* NodeTable::LentLabel(NodeId node) { return Lend(node, LentAnswers::kLabel, Label(node)); }
+
+const wchar_t* NodeTable::LentSecondText(NodeId node) { return Lend(node, LentAnswers::kSecondText, SecondText(node)); }
+
+const char* const* NodeTable::LentSelection() {
+  if (selection_.Size() == 0) return nullptr;
+  if (lent_selection_version_ != selection_.Version()) {
+    lent_selection_ = std::make_unique<const char*[]>(selection_.Size());
+    const char** name = lent_selection_.get();
+    selection_.ForEach([&](NodeId node) { *name++ = Name(node); });
+    lent_selection_version_ = selection_.Version();
+  }
+  return lent_selection_.get();
+}
+
+std::size_t NodeTable::MemoryUse() const {
+  return nodes_.MemoryUse() + blocks_.MemoryUse() + index_.MemoryUse() + cells_.MemoryUse() + selection_.MemoryUse() +
+         rare_.size() * (sizeof(Rare) + 4 * sizeof(void*));
+}
+
+}  // namespace uiox

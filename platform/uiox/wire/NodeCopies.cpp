@@ -1,0 +1,138 @@
+// Operation 2202 and ui_free: answers that the caller owns until they are released.
+
+#include <uiox/detail/NodeTable.h>
+#include <uiox/detail/WideCodec.h>
+#include <uiox/wire/Handlers.h>
+
+#include <cstdlib>
+#include <cstring>
+#include <new>
+#include <string_view>
+
+namespace uiox::wire {
+
+using oxecad_ui::toolkit::NodeAttribute;
+
+namespace {
+
+void* NewBlock(std::size_t bytes) {
+  void* block = std::malloc(bytes);
+  if (!block) throw std::bad_alloc();
+  return block;
+}
+
+void* CopyWide(const void* encoded) {
+  const std::size_t length = encoded ? detail::WideCodec::Length(encoded) : 0;
+  auto* copy = static_cast<wchar_t*>(NewBlock((length + 1) * sizeof(wchar_t)));
+  if (encoded) detail::WideCodec::Read(encoded, copy);
+  copy[length] = 0;
+  return copy;
+}
+
+void* CopyText(const char* text) {
+  const std::size_t bytes = std::strlen(text) + 1;
+  return std::memcpy(NewBlock(bytes), text, bytes);
+}
+
+/// A list as one block: the pointers, then the characters that they point to. Null for an empty list.
+void* CopyChildren(const NodeTable& table, NodeId node) {
+  const std::size_t count = table.Children().Count(node);
+  if (count == 0) return nullptr;
+  // Names are looked at twice, first for their lengths; the pointers wait in the block meanwhile.
+  std::size_t bytes = 0;
+  table.Children().ForEach(node, [&](NodeId child) { bytes += std::strlen(table.Name(child)) + 1; });
+  auto* pointers = static_cast<char**>(NewBlock(count * sizeof(char*) + bytes));
+  char* characters = reinterpret_cast<char*>(pointers + count);
+  char** place = pointers;
+  table.Children().ForEach(node, [&](NodeId child) {
+    *place++ = characters;
+    characters = stpcpy(characters, table.Name(child)) + 1;
+  });
+  return pointers;
+}
+
+const char* ParentName(const NodeTable& table, NodeId node) {
+  const NodeId parent = table.Parent(node);
+  return parent == kTop ? "" : table.Name(parent);
+}
+
+/// The copy that an option asks for, or null where it asks for no copy (or for that of an empty list).
+void* Copy(const NodeTable& table, NodeId node, const Option& option) {
+  switch (static_cast<NodeAttribute>(option.code)) {
+    case NodeAttribute::Label:
+      return CopyWide(table.Label(node));
+    case NodeAttribute::SecondText:
+      return CopyWide(table.SecondText(node));
+    case NodeAttribute::Type:
+      return CopyText(Suite::Get().Types().Name(table.Type(node)));
+    case NodeAttribute::Parent:
+      return CopyText(ParentName(table, node));
+    case NodeAttribute::Children:
+      return option.array.word != 0 ? CopyChildren(table, node) : nullptr;
+    default:
+      return nullptr;
+  }
+}
+
+void Hand(const TreeStore& store, NodeId node, const Option& option, void* copy) {
+  const Slot place = option.value;
+  switch (static_cast<NodeAttribute>(option.code)) {
+    case NodeAttribute::Label:
+    case NodeAttribute::SecondText:
+    case NodeAttribute::Type:
+    case NodeAttribute::Parent:
+      return Answer<void*>(place, copy);
+    case NodeAttribute::Children:
+      if (option.array.word != 0) Answer<void*>(option.array, copy);
+      return Answer<int>(place, static_cast<int>(store.ChildCount(node)));
+    case NodeAttribute::FirstInt:
+      return Answer<int>(place, store.FirstInt(node));
+    case NodeAttribute::Expanded:
+      return Answer<int>(place, store.Expanded(node));
+    case NodeAttribute::CheckState:
+      return Answer<std::uint32_t>(place, store.CheckState(node));
+    case NodeAttribute::PartlyChecked:
+      return Answer<int>(place, store.PartlyChecked(node) ? 1 : 0);
+    case NodeAttribute::UserData:
+      return Answer<void*>(place, store.UserData(node));
+    case NodeAttribute::ThirdInt:
+      return Answer<int>(place, store.ThirdInt(node));
+    case NodeAttribute::CheckSensitive:
+      return Answer<int>(place, store.CheckSensitive(node) ? 1 : 0);
+  }
+}
+
+}  // namespace
+
+Status GetNode(TreeWidget& tree, const Call& call) {
+  const NodeId node = FindNode(tree, call.positional[0]);
+  if (node == kNoNode) return kUnknownNode;
+  if (!HasPlaces(call)) return kNoPlace;
+  void* copies[Call::kMaxOptions];
+  std::size_t made = 0;
+  try {
+    for (const Option& option : call) {
+      copies[made] = Copy(tree.Store().Table(), node, option);
+      ++made;
+    }
+  } catch (const std::bad_alloc&) {
+    while (made > 0) std::free(copies[--made]);
+    return kNoMemory;
+  }
+  for (std::size_t i = 0; i < made; ++i) Hand(tree.Store(), node, call.options[i], copies[i]);
+  return kOk;
+}
+
+Status Free(const Call& call) {
+  const Option& option = call.options[0];
+  const Slot place = option.shape == 'l' ? option.array : option.value;
+  if (option.shape != 's' && option.shape != 'w' && option.shape != 'l') return kRefused;
+  if (place.word == 0) return kNoPlace;
+  void* copy = nullptr;
+  std::memcpy(&copy, place.Pointer(), sizeof copy);
+  std::free(copy);
+  Answer<void*>(place, nullptr);
+  return kOk;
+}
+
+}  // namespace uiox::wire
