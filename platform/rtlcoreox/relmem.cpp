@@ -1,16 +1,28 @@
 #include <oxkutils/Export.h>
 #include <uicomps/toolkit/Toolkit.h>
+#include <uiox/Backend.h>
+#include <uiox/Memory.h>
 
-#include <cstdlib>
 #include <cstring>
 
-// The blocks that the toolkit hands out come from malloc. The pointer may be of any object type: its bytes are copied.
-OXECAD_PLATFORM_EXPORT int relmem(void* pointer_address) {
-  if (!pointer_address) return 0;
+namespace {
+
+/// The pointer may be of any object type: its bytes are copied.
+int Release(const uiox::Call& call) {
+  if (!call.value) return 0;
   void* block = nullptr;
-  std::memcpy(&block, pointer_address, sizeof block);
-  std::free(block);
+  std::memcpy(&block, call.value, sizeof block);
+  uiox::ReleaseBlock(block);
   block = nullptr;
-  std::memcpy(pointer_address, &block, sizeof block);
+  std::memcpy(call.value, &block, sizeof block);
   return 0;
+}
+
+}  // namespace
+
+OXECAD_PLATFORM_EXPORT int relmem(void* pointer_address) {
+  uiox::Call call(uiox::Function::ReleaseMemory);
+  call.value = pointer_address;
+  call.answer = Release;
+  return uiox::Dispatch(call);
 }

@@ -2,6 +2,7 @@
 
 #include <oxkutils/Export.h>
 #include <uicomps/toolkit/Toolkit.h>
+#include <uiox/Backend.h>
 
 #include <cstring>
 
@@ -18,19 +19,27 @@ constexpr BalloonStyle kStyles[] = {
     {9, false, false, kArrowInset},
 };
 
-const BalloonStyle* StyleOf(unsigned char quadrant) {
+const BalloonStyle* StyleOf(int quadrant) {
   for (const BalloonStyle& style : kStyles) {
     if (style.quadrant == quadrant) return &style;
   }
   return nullptr;
 }
 
+int GiveStyle(const uiox::Call& call) {
+  const BalloonStyle* const found = StyleOf(call.code);
+  if (!found || !call.value) return -1;
+  std::memcpy(call.value, &found, sizeof found);
+  return 0;
+}
+
 }  // namespace
 }  // namespace uitoolsox
 
 OXECAD_PLATFORM_EXPORT int uit_SkinGetBalloonDlgStyle(unsigned char selector, void* style, int /*end*/) {
-  const uitoolsox::BalloonStyle* const found = uitoolsox::StyleOf(selector);
-  if (!found || !style) return -1;
-  std::memcpy(style, &found, sizeof found);
-  return 0;
+  uiox::Call call(uiox::Function::BalloonStyle);
+  call.code = selector;
+  call.value = style;
+  call.answer = uitoolsox::GiveStyle;
+  return uiox::Dispatch(call);
 }

@@ -1,6 +1,7 @@
 #include <uitoolsox/BalloonStyle.h>
 
 #include <gtest/gtest.h>
+#include <tests/support/RecordingToolkit.h>
 #include <uicomps/toolkit/Toolkit.h>
 
 #include <cstdint>
@@ -57,4 +58,15 @@ TEST(BalloonStyle, IsRefusedWithoutAPlaceForIt) { EXPECT_NE(uit_SkinGetBalloonDl
 TEST(BalloonStyle, IsTheSameHandleEachTime) {
   EXPECT_EQ(StyleOf(9), StyleOf(9));
   EXPECT_NE(StyleOf(9), StyleOf(7));
+}
+
+TEST(BalloonStyle, IsAskedForThroughTheToolkitInPlace) {
+  using test_support::Calling;
+  test_support::RecordingToolkit toolkit(test_support::RecordingToolkit::StandIn);
+  EXPECT_NE(StyleOf(1), nullptr);
+  toolkit.When(Calling(uiox::Function::BalloonStyle)).Refuse(5);
+  std::intptr_t style = 0;
+  EXPECT_EQ(uit_SkinGetBalloonDlgStyle(1, &style, 0), 5);
+  EXPECT_EQ(style, 0);
+  EXPECT_EQ(toolkit.Lines().size(), 2u);
 }
