@@ -39,10 +39,11 @@ class NodeTable {
   }
   /// The same for a name that ends with a 0. Calls that follow each other mostly name the same node.
   NodeId FindAgain(const char* name) const {
-    if (nodes_.Has(last_found_) && std::strcmp(Name(last_found_), name) == 0) return last_found_;
-    const NodeId found = Find(std::string_view(name));
-    if (found != kNoNode) last_found_ = found;
-    return found;
+    if (nodes_.Has(last_found_) && detail::SameName(Name(last_found_), name)) return last_found_;
+    const std::uint32_t hash = detail::Hash(std::string_view(name));
+    const NodeId found = index_.Find(hash, [&](NodeId node) { return std::strcmp(Name(node), name) == 0; });
+    if (found == kTop) return kNoNode;
+    return last_found_ = found;
   }
 
   std::size_t Size() const { return nodes_.Size(); }
