@@ -19,7 +19,8 @@ void ReadNetRow(ItemContext& context) {
     context.cursor.Fail(offset, "expected one name for net " + std::to_string(*net.number) + ", found another one, \"" +
                                     *net.name + '"');
   }
-  context.Resolved(net);
+  if (!net.number || !net.name) context.Resolved(net);
+  context.CheckCount(context.nets.size(), "nets");
 }
 
 void ReadNetClass(ItemContext& context, NetClassTable& classes) {

@@ -19,9 +19,7 @@ std::optional<Point> Checked(std::int64_t x, std::int64_t y) {
   return Point{static_cast<Nm>(x), static_cast<Nm>(y)};
 }
 
-double AngleOf(double x, double y, double centerX, double centerY) {
-  return std::atan2(y - centerY, x - centerX);
-}
+double AngleOf(double x, double y, double centerX, double centerY) { return std::atan2(y - centerY, x - centerX); }
 
 // The turn from `from` to `to` in the positive sense, 0 to 2 pi.
 double PositiveTurn(double from, double to) {
@@ -77,12 +75,30 @@ class BoxBuilder {
       if (corner) Add(*corner);
     }
   }
+  void AddArc(Point start, Point mid, Point end);
   void Add(const Drawing& drawing);
   std::optional<Box> Get() const { return box_; }
 
  private:
   std::optional<Box> box_;
 };
+
+// The ends, and the points furthest right, down, left and up where the arc passes them.
+void BoxBuilder::AddArc(Point start, Point mid, Point end) {
+  Add(start);
+  Add(mid);
+  Add(end);
+  const std::optional<ArcShape> arc = ArcThrough(start, mid, end);
+  if (!arc) return;
+  const double first = arc->sweep < 0 ? arc->start + arc->sweep : arc->start;
+  for (int quarter = 0; quarter < 4; ++quarter) {
+    const double angle = quarter * kPi / 2;
+    if (PositiveTurn(first, angle) > std::abs(arc->sweep)) continue;
+    const auto point = Checked(std::llround(arc->centerX + arc->radius * std::cos(angle)),
+                               std::llround(arc->centerY + arc->radius * std::sin(angle)));
+    if (point) Add(*point);
+  }
+}
 
 void BoxBuilder::Add(const Drawing& drawing) {
   const auto& p = drawing.points;
@@ -91,12 +107,9 @@ void BoxBuilder::Add(const Drawing& drawing) {
       Add(p[0]);
       Add(p[1]);
       return;
-    case DrawingKind::Arc: {
-      std::vector<Point> points{p[0], p[2]};
-      AppendArc(p[0], p[1], p[2], 1000, points);
-      Add(points);
+    case DrawingKind::Arc:
+      AddArc(p[0], p[1], p[2]);
       return;
-    }
     case DrawingKind::Circle:
       AddAround(p[0], std::hypot(static_cast<double>(p[1].x) - p[0].x, static_cast<double>(p[1].y) - p[0].y));
       return;
@@ -198,7 +211,7 @@ std::optional<Box> Outline(const Board& board) {
   for (const Track& track : board.tracks) {
     all.Add(track.start);
     all.Add(track.end);
-    if (track.arc) all.Add(track.mid);
+    if (track.arc) all.AddArc(track.start, track.mid, track.end);
   }
   return all.Get();
 }

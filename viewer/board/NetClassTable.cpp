@@ -9,9 +9,7 @@ namespace {
 
 constexpr const char* kDefaultName = "Default";
 
-bool Continues(char c) {
-  return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
-}
+bool Continues(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
 
 std::size_t NextCharacter(std::string_view text, std::size_t at) {
   ++at;
@@ -21,21 +19,15 @@ std::size_t NextCharacter(std::string_view text, std::size_t at) {
 
 }  // namespace
 
-void NetClassTable::Add(std::string_view className) {
-  classes_.emplace_back(className);
-}
+void NetClassTable::Add(std::string_view className) { classes_.emplace_back(className); }
 
-void NetClassTable::Assign(std::string_view net, std::string_view className) {
-  assignments_.emplace(net, className);
-}
+void NetClassTable::Assign(std::string_view net, std::string_view className) { assignments_.emplace(net, className); }
 
 void NetClassTable::AddPattern(std::string pattern, std::string className, std::size_t offset) {
   patterns_.push_back({std::move(pattern), std::move(className), offset});
 }
 
-void NetClassTable::Apply(Board& board) const {
-  Apply(board, std::numeric_limits<std::uint64_t>::max());
-}
+void NetClassTable::Apply(Board& board) const { Apply(board, std::numeric_limits<std::uint64_t>::max()); }
 
 std::size_t NetClassTable::Apply(Board& board, std::uint64_t steps) const {
   std::vector<NetClass> classes{{kDefaultName}};

@@ -6,40 +6,40 @@ namespace oxviewer {
 
 NetId NetTable::ByName(std::string_view name) {
   if (name.empty()) return kNoNet;
-  const auto found = byName_.find(name);
-  if (found != byName_.end()) return found->second;
+  const auto place = byName_.lower_bound(name);
+  if (place != byName_.end() && place->first == name) return place->second;
   Entry entry;
   entry.name = name;
   const NetId id = Add(std::move(entry));
-  byName_.emplace(name, id);
+  byName_.emplace_hint(place, name, id);
   return id;
 }
 
 NetId NetTable::ByNumber(std::int64_t number) {
   if (number <= 0) return kNoNet;
-  const auto found = byNumber_.find(number);
-  if (found != byNumber_.end()) return found->second;
+  const auto place = byNumber_.lower_bound(number);
+  if (place != byNumber_.end() && place->first == number) return place->second;
   Entry entry;
   entry.number = number;
   const NetId id = Add(std::move(entry));
-  byNumber_.emplace(number, id);
+  byNumber_.emplace_hint(place, number, id);
   return id;
 }
 
 bool NetTable::Bind(std::int64_t number, std::string_view name) {
   if (number <= 0) return true;
-  const auto found = byNumber_.find(number);
-  if (found == byNumber_.end()) {
-    byNumber_.emplace(number, ByName(name));
+  const auto place = byNumber_.lower_bound(number);
+  if (place == byNumber_.end() || place->first != number) {
+    byNumber_.emplace_hint(place, number, ByName(name));
     return true;
   }
-  if (found->second == kNoNet) return name.empty();
-  Entry& entry = entries_[static_cast<std::size_t>(found->second)];
+  if (place->second == kNoNet) return name.empty();
+  Entry& entry = entries_[static_cast<std::size_t>(place->second)];
   if (entry.nothing || !entry.name.empty()) return entry.name == name;
   entry.nothing = name.empty();
   if (entry.nothing) return true;
   entry.name = name;
-  const auto [known, isNew] = byName_.emplace(name, found->second);
+  const auto [known, isNew] = byName_.emplace(name, place->second);
   if (!isNew) entry.sameAs = known->second;
   return true;
 }

@@ -66,9 +66,9 @@ class ClassCollector {
 
   bool null() { return Scalar("null"); }
   bool boolean(bool) { return Scalar("a boolean"); }
-  bool number_integer(std::int64_t) { return Scalar("a number"); }
-  bool number_unsigned(std::uint64_t) { return Scalar("a number"); }
-  bool number_float(double, const std::string&) { return Scalar("a number"); }
+  bool number_integer(std::int64_t) { return Number(); }
+  bool number_unsigned(std::uint64_t) { return Number(); }
+  bool number_float(double, const std::string&) { return Number(); }
   bool binary(std::vector<std::uint8_t>&) { return Scalar("bytes"); }
   bool string(std::string& value);
   bool key(std::string& name);
@@ -83,6 +83,7 @@ class ClassCollector {
   bool Enter(bool object);
   bool Leave();
   bool Scalar(const char* what);
+  bool Number();
   bool TooLong(const std::string& text);
   Place Below(bool object) const;
   const char* Wanted() const;
@@ -202,6 +203,14 @@ bool ClassCollector::Scalar(const char* what) {
   const char* wanted = Wanted();
   if (!wanted || (what == std::string_view("null") && !places_.empty())) return true;  // null: not set
   return Fail(std::string("expected ") + wanted + ", found " + what);
+}
+
+// The parser sees that a number ends by the character behind it.
+bool ClassCollector::Number() {
+  if (Scalar("a number")) return true;
+  const char last = begin_[error.offset];
+  if ((last < '0' || last > '9') && error.offset > 0) --error.offset;
+  return false;
 }
 
 bool ClassCollector::TooLong(const std::string& text) {

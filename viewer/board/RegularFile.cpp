@@ -47,13 +47,9 @@ std::string Reason(int error) {
   }
 }
 
-std::string Unreadable(int error) {
-  return "expected a readable file: " + Reason(error);
-}
+std::string Unreadable(int error) { return "expected a readable file: " + Reason(error); }
 
-FileStatus Failed(std::string message) {
-  return {FileStatus::Kind::Failed, std::move(message)};
-}
+FileStatus Failed(std::string message) { return {FileStatus::Kind::Failed, std::move(message)}; }
 
 const char* KindOf(mode_t mode) {
   if (S_ISDIR(mode)) return "a directory";

@@ -119,9 +119,7 @@ bool SexprCursor::ReadFlag() {
   return !word || *word == "yes" || *word == "true";
 }
 
-void SexprCursor::Fail(std::size_t offset, std::string message) const {
-  throw SyntaxError{offset, std::move(message)};
-}
+void SexprCursor::Fail(std::size_t offset, std::string message) const { throw SyntaxError{offset, std::move(message)}; }
 
 const Token& SexprCursor::Peek() {
   if (!hasAhead_) {

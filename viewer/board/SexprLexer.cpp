@@ -21,9 +21,7 @@ constexpr std::array<std::uint8_t, 256> MakeCharClasses() {
 
 constexpr std::array<std::uint8_t, 256> kCharClasses = MakeCharClasses();
 
-std::uint8_t ClassOf(char c) {
-  return kCharClasses[static_cast<unsigned char>(c)];
-}
+std::uint8_t ClassOf(char c) { return kCharClasses[static_cast<unsigned char>(c)]; }
 
 int HexValue(char c) {
   if (c >= '0' && c <= '9') return c - '0';
@@ -32,9 +30,7 @@ int HexValue(char c) {
   return -1;
 }
 
-bool IsOctal(char c) {
-  return c >= '0' && c <= '7';
-}
+bool IsOctal(char c) { return c >= '0' && c <= '7'; }
 
 // Reads one escape of `raw`, whose backslash stands before `at`, and leaves `at` behind it.
 char UnescapedChar(std::string_view raw, std::size_t& at) {
