@@ -37,8 +37,9 @@ int WriteReportFile(const Options& options, const LoadedBoards& boards) {
 }
 
 int DumpTrees(const LoadedBoards& boards) {
-  const BoardTrees trees(*boards.a, nullptr);
-  const int status = Print(trees.Dump());
+  const auto trees = boards.b ? std::make_unique<BoardTrees>(*boards.a, *boards.b, *boards.diff, nullptr)
+                              : std::make_unique<BoardTrees>(*boards.a, nullptr);
+  const int status = Print(trees->Dump());
   return status == kSuccess ? Compared(boards) : status;
 }
 

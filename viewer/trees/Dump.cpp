@@ -2,6 +2,7 @@
 #include <viewer/trees/LayerPalette.h>
 #include <viewer/trees/Markup.h>
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 #include <vector>
@@ -86,12 +87,13 @@ std::string ModeOfCell(std::wstring_view label) {
 class CompareColumns {
  public:
   explicit CompareColumns(const uiox::TreeWidget& tree) : tree_(tree) {
-    constexpr std::array kNames{"a", "b", "overlap", "showMode", "dimOverlap"};
     for (std::size_t i = 0; i < kNames.size(); ++i) {
       columns_[i] = tree.FindColumn(kNames[i]);
       if (columns_[i] == uiox::kNoColumn) complete_ = false;
     }
   }
+
+  static bool Has(std::string_view name) { return std::find(kNames.begin(), kNames.end(), name) != kNames.end(); }
 
   void Append(uiox::NodeId node, std::string& out) const {
     if (!complete_) return;
@@ -104,6 +106,8 @@ class CompareColumns {
   }
 
  private:
+  static constexpr std::array<std::string_view, 5> kNames{"a", "b", "overlap", "showMode", "dimOverlap"};
+
   std::wstring_view Label(uiox::NodeId node, std::size_t column) const {
     return tree_.Store().CellLabel({node, columns_[column]});
   }
@@ -112,6 +116,16 @@ class CompareColumns {
   std::array<uiox::ColumnIndex, 5> columns_{};
   bool complete_ = true;
 };
+
+void AppendOtherCells(const uiox::TreeWidget& tree, uiox::NodeId node, std::string& out) {
+  const std::vector<uiox::Column>& columns = tree.Style().columns;
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    if (CompareColumns::Has(columns[i].name)) continue;
+    const std::wstring label = tree.Store().CellLabel({node, static_cast<uiox::ColumnIndex>(i)});
+    if (label.empty()) continue;
+    AppendField(columns[i].name, oxecadutils::WideStrToUtf8(columns[i].markup ? TextOfMarkup(label) : label), out);
+  }
+}
 
 std::string LabelText(const uiox::TreeWidget& tree, uiox::NodeId node) {
   const std::wstring label = tree.Store().Label(node);
@@ -128,6 +142,7 @@ void AppendNode(const uiox::TreeWidget& tree, uiox::NodeId node, std::size_t lev
   AppendField("state", std::to_string(store.CheckState(node)), out);
   AppendField("color", ColorOfImage(type), out);
   compare.Append(node, out);
+  AppendOtherCells(tree, node, out);
   out += '\n';
 }
 

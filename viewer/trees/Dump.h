@@ -20,6 +20,7 @@ namespace oxviewer {
 ///
 ///     \ta=<colour>\tb=<colour>\toverlap=<colour>\tshow=<both|a|b|a-b|b-a|overlap|diff|mix|none>\tdim=<0|1|2|none>
 ///
+/// Any other column gives a field of its own name with the cell's text, where there is one.
 /// Linear in the number of nodes.
 std::string DumpTree(const uiox::TreeWidget& tree);
 

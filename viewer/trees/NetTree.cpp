@@ -4,11 +4,14 @@
 #include <vector>
 
 #include <oxecadutils/StringConversion.h>
+#include <uicomps/base/WidgetOf.h>
+#include <uicomps/toolkit/NodeCalls.h>
 
 namespace oxviewer {
 namespace {
 
 using oxecadutils::Utf8ToWideStr;
+namespace wire = oxecad_ui::wire;
 
 constexpr const char* kNetKind = "net";
 constexpr const char* kClassType = "netclass";
@@ -44,20 +47,7 @@ void NetTree::Fill() {
 }
 
 void NetTree::SetType(const Net& net, const char* type) {
-  const std::string node = NodeOf(net);
-  if (GetNodeType(node.c_str()) == type) return;
-  // The toolkit's interface for trees of objects gives a type to a node only when it is added.
-  const std::string parent = GetParent(node.c_str());
-  std::vector<std::string> siblings;
-  GetChildren(parent.c_str(), siblings);
-  const char* next = nullptr;
-  for (std::size_t i = 0; i + 1 < siblings.size(); ++i) {
-    if (siblings[i] == node) next = siblings[i + 1].c_str();
-  }
-  const int selected = SelectedObjects().count(DataOf(net)) > 0 ? 1 : 0;
-  DeleteNode(node.c_str());
-  BaseTree::AddNodeBefore(node.c_str(), Utf8ToWideStr(net.name).c_str(), parent.c_str(), next, type, L"", 1, 0,
-                          selected, DataOf(net));
+  wire::ChangeNode(oxecad_ui::WidgetOf(*this), NodeOf(net).c_str(), wire::kChangeType(type));
 }
 
 }  // namespace oxviewer

@@ -31,7 +31,7 @@ class NetTree : public ObjectTree {
 
   /// The name of a net's node.
   static std::string NodeOf(const Net& net);
-  /// Shows a net with the image of a node type that is there already. Selection and place stay.
+  /// Gives a net's node another type, and with it that type's image.
   void SetType(const Net& net, const char* type);
 
   /// The type of nets that have no colour of their own.

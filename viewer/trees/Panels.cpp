@@ -14,7 +14,8 @@ struct Panel {
 };
 
 constexpr std::array kPanels{Panel{kLayersPanel, "layers.json"}, Panel{kNetsPanel, "nets.json"},
-                             Panel{kComponentsPanel, "components.json"}};
+                             Panel{kComponentsPanel, "components.json"}, Panel{kObjectsPanel, "objects.json"},
+                             Panel{kComparePanel, "compare.json"}};
 
 }  // namespace
 

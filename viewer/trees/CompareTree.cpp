@@ -1,0 +1,233 @@
+#include <viewer/trees/CompareTree.h>
+#include <viewer/trees/ComponentTree.h>
+#include <viewer/trees/LayerTree.h>
+#include <viewer/trees/NaturalNames.h>
+#include <viewer/trees/NodeName.h>
+#include <viewer/trees/TextSearch.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <memory>
+#include <utility>
+
+#include <oxecadutils/StringConversion.h>
+#include <uicomps/base/WidgetOf.h>
+#include <uicomps/toolkit/CellCalls.h>
+
+namespace oxviewer {
+namespace {
+
+using oxecad_ui::CompareColorTree;
+using oxecadutils::Utf8ToWideStr;
+using ShowMode = oxk::ecad::CompareColorVis::ShowMode;
+using Kind = CompareSubject::Kind;
+namespace wire = oxecad_ui::wire;
+
+constexpr const char* kRoot = "root";
+constexpr const char* kLayers = "layers";
+constexpr const char* kComponents = "components";
+constexpr const char* kNets = "nets";
+constexpr const char* kDifferenceColumn = "difference";
+
+const char* NodeKind(Kind kind) {
+  switch (kind) {
+    case Kind::Layer:
+      return "layer";
+    case Kind::Component:
+      return "component";
+    case Kind::Net:
+      break;
+  }
+  return "net";
+}
+
+// The name of a file without its folders.
+std::string FileName(const std::string& path) { return path.substr(path.find_last_of('/') + 1); }
+
+std::string Joined(const std::vector<Finding>& findings) {
+  std::string text;
+  for (const Finding finding : findings) {
+    if (!text.empty()) text += ", ";
+    text += NameOf(finding);
+  }
+  return text;
+}
+
+void AppendCount(std::size_t count, const char* what, std::string& text) {
+  if (count == 0) return;
+  if (!text.empty()) text += ", ";
+  text += std::to_string(count) + ' ' + what;
+}
+
+std::string SummaryOf(const SectionDiff& section) {
+  if (section.Equal()) return "equal";
+  std::string text;
+  AppendCount(section.changed.size(), "changed", text);
+  AppendCount(section.onlyA.size(), "only in A", text);
+  AppendCount(section.onlyB.size(), "only in B", text);
+  return text;
+}
+
+struct Entry {
+  CompareSubject subject;
+  std::string difference;
+};
+
+std::vector<Entry> EntriesOf(Kind kind, const SectionDiff& section) {
+  std::vector<Entry> entries;
+  const auto add = [&](const std::string& name, std::int32_t a, std::int32_t b, std::string difference) {
+    entries.push_back({{kind, {}, name, a, b, !difference.empty()}, std::move(difference)});
+  };
+  for (const Unmatched& item : section.onlyA) add(item.name, item.id, -1, "only in A");
+  for (const Unmatched& item : section.onlyB) add(item.name, -1, item.id, "only in B");
+  for (const Matched& item : section.changed) add(item.name, item.a, item.b, Joined(item.findings));
+  for (const Matched& item : section.equal) add(item.name, item.a, item.b, {});
+  return entries;
+}
+
+// Layers as A has them, those of B alone behind; everything else in natural order.
+void PutInOrder(Kind kind, std::vector<Entry>& entries) {
+  if (kind == Kind::Layer) {
+    const auto rank = [](const Entry& entry) {
+      return std::make_tuple(entry.subject.a < 0, entry.subject.a, entry.subject.b);
+    };
+    std::sort(entries.begin(), entries.end(), [&](const Entry& x, const Entry& y) { return rank(x) < rank(y); });
+    return;
+  }
+  const NameOrder natural = NaturalNameOrder();
+  std::vector<std::pair<std::wstring, Entry>> labelled;
+  for (Entry& entry : entries) labelled.emplace_back(natural.widen(entry.subject.name), std::move(entry));
+  std::stable_sort(labelled.begin(), labelled.end(),
+                   [&](const auto& x, const auto& y) { return natural.less(x.first, y.first); });
+  entries.clear();
+  for (auto& [label, entry] : labelled) entries.push_back(std::move(entry));
+}
+
+CompareColorTree::DesignFlag DesignsOf(const CompareSubject& subject) {
+  if (subject.a < 0) return CompareColorTree::DesignB;
+  return subject.b < 0 ? CompareColorTree::DesignA : CompareColorTree::DesignBoth;
+}
+
+}  // namespace
+
+CompareTree::CompareTree(const char* device, const Board& a, const Board& b, const BoardDiff& diff)
+    : CompareColorTree(device, kName), a_(a), b_(b), diff_(diff) {
+  SetOnDirtyHandler(&CompareTree::DirtyCB, this, &changed_);
+}
+
+CompareTree::~CompareTree() { CompareColorTree::Clear(); }
+
+void CompareTree::Fill(oxcore::Mainframe* mainframe) {
+  Init(mainframe);
+  SetRedraw(false);
+  AddHeading(kRoot, Utf8ToWideStr(FileName(a_.name) + " and " + FileName(b_.name)), true);
+  AddHeading(kLayers, L"Layers", !diff_.layers.Equal());
+  AddHeading(kComponents, L"Components", !diff_.components.Equal());
+  AddHeading(kNets, L"Nets", !diff_.nets.Equal());
+  AddSection(Kind::Layer, kLayers, diff_.layers);
+  AddSection(Kind::Component, kComponents, diff_.components);
+  AddSection(Kind::Net, kNets, diff_.nets);
+  for (const char* heading : {kLayers, kComponents, kNets, kRoot}) ChildInfoChanged(heading);
+  SetRedraw(true);
+}
+
+void CompareTree::AddHeading(const char* node, const std::wstring& label, bool expanded) {
+  CompareNodeInfo info;
+  info.name = node;
+  info.label = label;
+  info.type = s_compareType;
+  info.expanded = expanded;
+  AddNode(info);
+}
+
+void CompareTree::AddSection(Kind kind, const char* heading, const SectionDiff& section) {
+  std::vector<Entry> entries = EntriesOf(kind, section);
+  if (kind == Kind::Net) {
+    for (const RenamedNet& renamed : diff_.renamed) {
+      for (Entry& entry : entries) {
+        if (entry.subject.b < 0 && entry.subject.a == renamed.a.id) entry.difference += ", in B " + renamed.b.name;
+        if (entry.subject.a < 0 && entry.subject.b == renamed.b.id) entry.difference += ", in A " + renamed.a.name;
+      }
+    }
+  }
+  PutInOrder(kind, entries);
+  for (Entry& entry : entries) AddSubject(heading, std::move(entry.subject), entry.difference);
+  const std::wstring summary = Utf8ToWideStr(SummaryOf(section));
+  wire::SetCell(oxecad_ui::WidgetOf(*this), {heading, kDifferenceColumn}, wire::kCellLabel(summary.c_str()));
+}
+
+// Every node that is added is summed up with all its siblings at once. So it comes below the root, which has few
+// children, and is moved to its heading, which is summed up when all are there.
+void CompareTree::AddSubject(const char* heading, CompareSubject subject, const std::string& difference) {
+  subject.node = UniqueNode(subject.kind, subject.name);
+  CompareNodeInfo info;
+  info.name = subject.node;
+  info.type = s_compareType;
+  info.colorA = kColorA;
+  info.colorB = kColorB;
+  info.colorOverlap = kColorOverlap;
+  info.designFlag = DesignsOf(subject);
+  std::string label = subject.name;
+  const auto& board = subject.a >= 0 ? a_ : b_;
+  const auto position = static_cast<std::size_t>(subject.a >= 0 ? subject.a : subject.b);
+  if (subject.kind == Kind::Layer) label = LayerLabel(board.layers[position]);
+  if (subject.kind == Kind::Component) label = ComponentLabel(board.components[position]);
+  info.label = Utf8ToWideStr(label);
+  if (!AddNode(info)) return;
+  const std::wstring words = Utf8ToWideStr(difference);
+  wire::SetCell(oxecad_ui::WidgetOf(*this), {subject.node.c_str(), kDifferenceColumn}, wire::kCellLabel(words.c_str()));
+  MoveNodeBefore(subject.node.c_str(), heading, nullptr);
+  positions_.emplace(subject.node, subjects_.size());
+  subjects_.push_back(std::move(subject));
+  differences_.push_back(difference);
+}
+
+std::string CompareTree::UniqueNode(Kind kind, const std::string& name) {
+  std::string node = NodeName(NodeKind(kind), name);
+  const int number = ++used_[node];
+  return number == 1 ? node : node + ':' + std::to_string(number);
+}
+
+CompareLook CompareTree::LookOf(std::size_t subject) const {
+  const std::unique_ptr<NodeInfo> info(GetNodeInfo(subjects_[subject].node.c_str()));
+  const auto* compare = dynamic_cast<const CompareNodeInfo*>(info.get());
+  if (!compare) return {};
+  return {compare->colorA, compare->colorB, compare->colorOverlap, compare->showMode, compare->dim == Checked};
+}
+
+std::size_t CompareTree::NextDifference(std::size_t from, bool backwards,
+                                        const std::function<bool(std::size_t)>& accept) const {
+  const std::size_t count = subjects_.size();
+  std::size_t at = from < count ? from : backwards ? 0 : count - 1;
+  for (std::size_t step = 0; step < count; ++step) {
+    at = (at + (backwards ? count - 1 : 1)) % count;
+    if (subjects_[at].differs && accept(at)) return at;
+  }
+  return kNone;
+}
+
+bool CompareTree::Matches(std::size_t subject, std::string_view text) const {
+  return HoldsText(subjects_[subject].name, text) || HoldsText(differences_[subject], text);
+}
+
+void CompareTree::OnSelect(int count, char** nodes, int /*kind*/) {
+  selected_.clear();
+  for (int i = 0; i < count; ++i) {
+    std::vector<std::string> leaves;
+    GetLeaves(nodes[i], leaves);
+    for (const std::string& leaf : leaves) {
+      if (const auto found = positions_.find(leaf); found != positions_.end()) selected_.push_back(found->second);
+    }
+  }
+  std::sort(selected_.begin(), selected_.end());
+  selected_.erase(std::unique(selected_.begin(), selected_.end()), selected_.end());
+  if (onSelection_) onSelection_();
+}
+
+int CompareTree::DirtyCB(void* client, void* reason) {
+  auto* self = static_cast<CompareTree*>(client);
+  if (reinterpret_cast<std::intptr_t>(reason) == ValueChanged && self->onChange_) self->onChange_();
+  return 0;
+}
+
+}  // namespace oxviewer

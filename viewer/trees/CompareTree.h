@@ -1,0 +1,120 @@
+/// \file
+/// The tree of a comparison of two boards.
+#ifndef OXECAD_VIEWER_TREES_COMPARETREE_H
+#define OXECAD_VIEWER_TREES_COMPARETREE_H
+
+#include <viewer/board/Board.h>
+#include <viewer/diff/BoardDiff.h>
+#include <viewer/trees/LayerPalette.h>
+
+#include <cstddef>
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <uicomps/compare/CompareColorTree.h>
+
+namespace oxviewer {
+
+/// How things of a comparison are shown.
+struct CompareLook {
+  Color colorA = kNoColor;
+  Color colorB = kNoColor;
+  Color colorOverlap = kNoColor;
+  oxk::ecad::CompareColorVis::ShowMode showMode = oxk::ecad::CompareColorVis::Both;
+  bool dimOverlap = false;
+
+  friend bool operator==(const CompareLook&, const CompareLook&) = default;
+};
+
+/// What a node of the comparison stands for. Positions are those on the boards, negative where a board has none.
+struct CompareSubject {
+  enum class Kind : std::uint8_t { Layer, Component, Net };
+  Kind kind;
+  std::string node;
+  std::string name;
+  std::int32_t a;
+  std::int32_t b;
+  bool differs;
+};
+
+/// Layers, components and nets of two boards, each with its colours in A, in B and where both are, its show mode and
+/// whether what both have is dimmed. The column "difference" says in words what differs.
+///
+///     A and B                        root
+///       Layers                       layers
+///         F.Cu                       layer:F.Cu
+///       Components                   components
+///         R1      moved, value       component:R1
+///         R2      only in A          component:R2
+///       Nets                         nets
+///         GND     tracks, vias       net:GND
+class CompareTree : public oxecad_ui::CompareColorTree {
+ public:
+  static constexpr const char* kName = "compare";
+
+  /// The colours that everything has at first.
+  static constexpr Color kColorA = ColorOf(0x56, 0xB4, 0xE9);
+  static constexpr Color kColorB = ColorOf(0xE6, 0x8A, 0x00);
+  static constexpr Color kColorOverlap = ColorOf(0xA8, 0xB0, 0xB8);
+
+  /// Shows a comparison in the tree "compare" of the device. Boards and comparison must outlive it.
+  CompareTree(const char* device, const Board& a, const Board& b, const BoardDiff& diff);
+  CompareTree(const CompareTree&) = delete;
+  CompareTree& operator=(const CompareTree&) = delete;
+  /// Empties the tree.
+  ~CompareTree() override;
+
+  using CompareColorTree::Init;
+  /// Registers the tree's events and fills it.
+  void Fill(oxcore::Mainframe* mainframe);
+
+  /// Is called after the user has changed a colour, a show mode or a dim box.
+  void SetOnChange(std::function<void()> onChange) { onChange_ = std::move(onChange); }
+  /// Is called after the user has changed the selection.
+  void SetOnSelection(std::function<void()> onSelection) { onSelection_ = std::move(onSelection); }
+
+  /// Everything that is compared, in the order of the tree.
+  const std::vector<CompareSubject>& Subjects() const { return subjects_; }
+  /// How the subject at a position is shown now.
+  CompareLook LookOf(std::size_t subject) const;
+  /// Positions of the subjects selected, in ascending order; a heading stands for all below it.
+  const std::vector<std::size_t>& Selected() const { return selected_; }
+
+  /// The position of the next subject that differs, after `from` and round the end; `backwards` goes the other way.
+  /// `accept` may refuse subjects. kNone when there is none.
+  static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+  std::size_t NextDifference(std::size_t from, bool backwards, const std::function<bool(std::size_t)>& accept) const;
+
+  /// Whether a subject's name or difference holds the text (UTF-8, ASCII letters in any case).
+  bool Matches(std::size_t subject, std::string_view text) const;
+
+  void OnSelect(int count, char** nodes, int kind) override;
+
+ private:
+  static int DirtyCB(void* self, void* reason);
+
+  void AddHeading(const char* node, const std::wstring& label, bool expanded);
+  void AddSection(CompareSubject::Kind kind, const char* heading, const SectionDiff& section);
+  void AddSubject(const char* heading, CompareSubject subject, const std::string& difference);
+  std::string UniqueNode(CompareSubject::Kind kind, const std::string& name);
+  void SumUp(const char* heading);
+
+  const Board& a_;
+  const Board& b_;
+  const BoardDiff& diff_;
+  std::vector<CompareSubject> subjects_;
+  std::vector<std::string> differences_;
+  std::map<std::string, std::size_t> positions_;  // by node
+  std::map<std::string, int> used_;               // how often a node name was asked for
+  std::vector<std::size_t> selected_;
+  std::vector<std::string> changed_;
+  std::function<void()> onChange_;
+  std::function<void()> onSelection_;
+};
+
+}  // namespace oxviewer
+
+#endif  // OXECAD_VIEWER_TREES_COMPARETREE_H
