@@ -7,6 +7,7 @@
 #ifndef OXECAD_TESTS_SUPPORT_CHECK_H
 #define OXECAD_TESTS_SUPPORT_CHECK_H
 
+#include <gtest/gtest.h>
 #include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
 
