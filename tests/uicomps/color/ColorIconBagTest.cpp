@@ -32,7 +32,7 @@ TEST_F(ColorIcons, AreLoadedPaintedDefinedAndReleased) {
   EXPECT_TRUE(toolkit.Took(R"(
     global_do 6030 LoadImage "square.png" image{23 3x3} | 0
     global_do 6031 DefineImage "square.png_255" image{23 3x3} | 0
-    relmem p1
+    relmem &pixels
   )"));
 }
 
@@ -69,10 +69,10 @@ TEST_F(ColorIcons, AreMadeForEachBaseImage) {
   EXPECT_TRUE(toolkit.Took(R"(
     global_do 6030 LoadImage "square.png" image{23 3x3} | 0
     global_do 6031 DefineImage "square.png_5" image{23 3x3} | 0
-    relmem p1
+    relmem &pixels
     global_do 6030 LoadImage "dot.png" image{23 1x1} | 0
     global_do 6031 DefineImage "dot.png_5" image{23 1x1} | 0
-    relmem p2
+    relmem &pixels
   )"));
 }
 

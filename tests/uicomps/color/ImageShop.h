@@ -85,6 +85,7 @@ class ImageShop {
       block[at + 3] = 0xFF;
     }
     blocks_.insert(block);
+    toolkit_.NamePointer(block, "&pixels");
     return block;
   }
 
