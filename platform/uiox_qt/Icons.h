@@ -21,6 +21,11 @@ constexpr int kIconSide = 16;
 /// when they are enlarged.
 OXECAD_UIOX_QT_API QPixmap ImagePixmap(std::string_view name, int side, qreal ratio);
 
+/// An image was defined anew: what was made of it is forgotten.
+void ForgetImage(std::string_view name);
+/// The application ends: no pixmap may outlive it.
+void ForgetImages();
+
 /// An icon of an image; null icon when there is no such image. It is drawn for each size and device anew.
 OXECAD_UIOX_QT_API QIcon ImageIcon(std::string_view name);
 

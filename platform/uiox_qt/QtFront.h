@@ -38,8 +38,9 @@ class OXECAD_UIOX_QT_API QtFront final : public uiox::Front {
   /// such device. Made on the first call and the same afterwards. The caller places it but does not delete it: it
   /// ends with the device or the front, whichever is first. It is visible while the device is shown.
   QWidget* WidgetFor(std::string_view device);
-  /// The view of a tree; null when there is no such device or tree. The view stays a part of its device's widget until
-  /// the caller gives it another parent, which makes the device a part of the application's window like `WidgetFor`.
+  /// The view of a tree, for the application to place by itself; null when there is no such device or tree. Until it is
+  /// given another parent it stays in its device's widget. Like `WidgetFor`, this makes the device a part of the
+  /// application's window.
   TreeView* TreeViewFor(std::string_view device, std::string_view tree);
   /// The Qt widget that shows a component (a line edit, a combo box, a push button ...); null when there is none. Does
   /// not turn the device into a part of the application's window.

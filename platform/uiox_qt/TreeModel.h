@@ -11,7 +11,7 @@
 #include <QAbstractItemModel>
 
 #include <memory>
-#include <vector>
+#include <string_view>
 
 namespace uiox_qt {
 
@@ -54,6 +54,13 @@ class OXECAD_UIOX_QT_API TreeModel final : public QAbstractItemModel, private ui
   void Flush();
   /// While redraw is off and much changed: the model is empty.
   bool IsSuspended() const;
+  /// Redraw is on again: the model shows the nodes again, if it was suspended. Without this call it does so when
+  /// control returns to the event loop.
+  void Resume();
+  /// While rows are being added, removed or moved, or the model is reset: what views do then is no user's doing.
+  bool IsChangingShape() const;
+  /// The name of the image of a node's type, of its expanded one for an expanded node; empty: none.
+  std::string_view ImageName(uiox::NodeId node) const;
 
   // QAbstractItemModel
   QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
@@ -65,8 +72,16 @@ class OXECAD_UIOX_QT_API TreeModel final : public QAbstractItemModel, private ui
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
   Qt::ItemFlags flags(const QModelIndex& index) const override;
 
+ protected:
+  void timerEvent(QTimerEvent* event) override;
+
  private:
   class Changes;
+
+  /// False when the change is not to be told.
+  bool BeginShapeChange();
+  void Collect(uiox::NodeId node);
+  void Suspend();
 
   void AboutToAdd(uiox::NodeId parent, std::uint32_t row) override;
   void Added(uiox::NodeId node, uiox::NodeId parent, std::uint32_t row) override;
@@ -79,6 +94,7 @@ class OXECAD_UIOX_QT_API TreeModel final : public QAbstractItemModel, private ui
   void CellChanged(uiox::CellPlace cell) override;
   void CellControlChanged(uiox::CellPlace cell, uiox::ControlId control) override;
   void ControlChanged(uiox::CellPlace cell, uiox::ControlId control) override;
+  void BranchExpanded(uiox::NodeId node, bool expanded) override;
 
   uiox::TreeWidget* tree_;
   std::unique_ptr<Changes> changes_;

@@ -23,6 +23,8 @@ class TreeModel;
 ///   click on a box    toggles a check box (so does Space, for the current node); the selection stays
 ///   click on a cell   toggles the check button in it, or tells the cell; an option menu opens in it
 ///   arrow             expands and collapses (so do Right, Left, + and -; * expands the whole branch)
+///
+/// Ctrl with Left and Right goes to another cell of the row, and Space does there what a click does.
 class OXECAD_UIOX_QT_API TreeView final : public QTreeView {
  public:
   explicit TreeView(uiox::TreeWidget& tree, QWidget* parent = nullptr);
@@ -33,6 +35,8 @@ class OXECAD_UIOX_QT_API TreeView final : public QTreeView {
   uiox::TreeWidget* Tree() const;
   /// The tree ends: the view empties itself for good.
   void Detach();
+  /// The tree's sensitivity or redraw has changed.
+  void FollowWidget();
 
   /// `kNoNode` where there is none.
   uiox::NodeId NodeAt(const QPoint& viewport_position) const;
@@ -51,13 +55,36 @@ class OXECAD_UIOX_QT_API TreeView final : public QTreeView {
   void keyPressEvent(QKeyEvent* event) override;
   void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
-  void rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) override;
+  void dataChanged(const QModelIndex& top_left, const QModelIndex& bottom_right, const QList<int>& roles) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
   class Sync;
+  enum class Part { None, Branch, CheckBox, Label, Cell, CellCheck };
+  /// What is under the mouse.
+  struct Spot {
+    uiox::NodeId node = uiox::kNoNode;
+    int column = 0;
+    Part part = Part::None;
+    bool operator==(const Spot& other) const {
+      return node == other.node && column == other.column && part == other.part;
+    }
+  };
+  static bool IsBox(const Spot& spot) { return spot.part == Part::CheckBox || spot.part == Part::CellCheck; }
+
+  void FitColumns(const uiox::TreeStyle& style);
+  Spot SpotAt(const QPoint& position) const;
+  void Click(const Spot& spot);
+  void UseCell(const QModelIndex& index);
+  void Activate(uiox::NodeId node);
+  bool UseKey(const QKeyEvent& event);
+  bool UseSpace(const QModelIndex& current);
+  bool StepColumn(const QModelIndex& current, int step);
+  void ExpandBranch(uiox::NodeId node);
+
   std::unique_ptr<Sync> sync_;
+  Spot pressed_;
 };
 
 }  // namespace uiox_qt

@@ -1,0 +1,32 @@
+/// \file
+/// Option menus.
+#ifndef OXECAD_UIOX_QT_OPTIONBOX_H
+#define OXECAD_UIOX_QT_OPTIONBOX_H
+
+#include <uiox/Widget.h>
+
+#include <QComboBox>
+
+#include <string>
+
+namespace uiox_qt {
+
+/// A combo box that does not change under a turning wheel, which is meant for what it lies in.
+class OptionBox : public QComboBox {
+ public:
+  using QComboBox::QComboBox;
+  QSize minimumSizeHint() const override;
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override;
+};
+
+/// Gives a combo box the items, the choice and the number of visible items of an option menu. No signal is sent.
+void FillOptionBox(QComboBox& box, const uiox::Widget& menu);
+
+/// The name of an item.
+std::string OptionName(const QComboBox& box, int row);
+
+}  // namespace uiox_qt
+
+#endif
