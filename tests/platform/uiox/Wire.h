@@ -34,10 +34,10 @@ constexpr std::intptr_t kEnd = 0;
 /// A suite with nothing in it but the device "dev" with the tree "tree" and the columns "a" and "b".
 class WireTest : public testing::Test {
  protected:
-  WireTest() { suite.Reset(); }
+  WireTest() = default;
   ~WireTest() override { suite.Reset(); }
 
-  uiox::Suite& suite = uiox::Suite::Get();
+  uiox::Suite& suite = Fresh();
   uiox::TreeWidget& tree = suite.ObtainTree("dev", "tree", {"a", "b"});
   uiox::TreeStore& store = tree.Store();
 
@@ -72,6 +72,12 @@ class WireTest : public testing::Test {
     return names;
   }
   std::string Children(const char* node) const { return Children(Node(node)); }
+
+ private:
+  static uiox::Suite& Fresh() {
+    uiox::Suite::Get().Reset();
+    return uiox::Suite::Get();
+  }
 };
 
 }  // namespace uiox_test
