@@ -1,5 +1,5 @@
+#include <tests/uicomps/VirtualSlot.h>
 #include <tests/uicomps/color/ColorTreeWire.h>
-#include <tests/uicomps/color/VirtualSlot.h>
 
 #include <memory>
 #include <type_traits>
@@ -16,6 +16,8 @@ static_assert(std::is_same_v<decltype(&ColorTree::OnSelect), void (ColorTree::*)
 static_assert(std::is_same_v<decltype(&ColorTree::OnCheck), void (ColorTree::*)(const char*)>);
 static_assert(std::has_virtual_destructor_v<ColorTree>);
 static_assert(std::has_virtual_destructor_v<ColorTree::ColorNodeInfo>);
+
+using oxecad_ui::VirtualSlot;
 
 TEST(ColorTreeSlots, StandInTheOrderOfTheInterface) {
   EXPECT_EQ(VirtualSlot(static_cast<void (ColorTree::*)()>(&ColorTree::Init)), 1);

@@ -1,5 +1,5 @@
+#include <tests/uicomps/VirtualSlot.h>
 #include <tests/uicomps/color/ColorTreeWire.h>
-#include <tests/uicomps/color/VirtualSlot.h>
 #include <uicomps/color/EcadTree.h>
 
 #include <memory>
@@ -10,6 +10,7 @@ namespace color_tests {
 namespace {
 
 using oxecad_ui::EcadTree;
+using oxecad_ui::VirtualSlot;
 using Objects = std::set<void*>;
 
 static_assert(std::is_same_v<decltype(&EcadTree::OnActivate), void (EcadTree::*)(const char*)>);
