@@ -21,7 +21,8 @@ void Settle(Result result, T preset, T& place) {
   if (!result) place = preset;
 }
 inline void Settle(Result result, Names preset, Names& place) {
-  if (!result || place.names == nullptr) place = preset;
+  const bool withoutArray = place.names == nullptr && place.count > 0;
+  if (!result || withoutArray) place = preset;
 }
 
 }  // namespace detail
