@@ -51,12 +51,8 @@ bool AppendEscape(std::string& out, std::uint32_t c) {
   return true;
 }
 
-bool IsHighSurrogate(std::uint32_t unit) {
-  return unit >= 0xD800 && unit < 0xDC00;
-}
-bool IsLowSurrogate(std::uint32_t unit) {
-  return unit >= 0xDC00 && unit < 0xE000;
-}
+bool IsHighSurrogate(std::uint32_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
+bool IsLowSurrogate(std::uint32_t unit) { return unit >= 0xDC00 && unit < 0xE000; }
 
 void AppendUnits(std::wstring& out, std::uint32_t code) {
   if (code < 0x10000) {
@@ -141,12 +137,8 @@ std::wstring Unescaped(std::string_view text) {
   return out;
 }
 
-std::string Quoted(const char* text) {
-  return text ? '"' + Escaped(std::string_view(text)) + '"' : "null";
-}
+std::string Quoted(const char* text) { return text ? '"' + Escaped(std::string_view(text)) + '"' : "null"; }
 
-std::string Quoted(const wchar_t* text) {
-  return text ? "L\"" + Escaped(std::wstring_view(text)) + '"' : "null";
-}
+std::string Quoted(const wchar_t* text) { return text ? "L\"" + Escaped(std::wstring_view(text)) + '"' : "null"; }
 
 }  // namespace test_support

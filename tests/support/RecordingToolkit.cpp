@@ -47,9 +47,7 @@ int FailedResult(Function function) {
   return function == Function::CreateSearchPath ? oxecad_ui::toolkit::kNoSearchPath : 1;
 }
 
-std::string Text(const char* text) {
-  return text ? text : "";
-}
+std::string Text(const char* text) { return text ? text : ""; }
 
 bool ChangesShape(const uiox::Call& call) {
   return call.function == Function::DoOperation && ((call.code >= 2029 && call.code <= 2032) || call.code == 2331);
@@ -92,9 +90,7 @@ void RecordingToolkit::FailAll(Failure failure) {
   fail_all_ = true;
 }
 
-void RecordingToolkit::FailNone() {
-  FailCall(0, Failure::Refused);
-}
+void RecordingToolkit::FailNone() { FailCall(0, Failure::Refused); }
 
 int RecordingToolkit::Handle(uiox::Call& call) {
   ++call_count_;

@@ -8,9 +8,7 @@ namespace test_support {
 namespace {
 
 constexpr std::intptr_t kEnd = 0;
-std::intptr_t Slot(int value) {
-  return value;
-}
+std::intptr_t Slot(int value) { return value; }
 int Twice(void* client, void* value) {
   return 2 * static_cast<int>(*static_cast<int*>(client) + reinterpret_cast<std::intptr_t>(value));
 }

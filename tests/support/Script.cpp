@@ -9,9 +9,7 @@ namespace {
 constexpr int kGetNode = 2202;
 constexpr std::uintptr_t kGarbage = 0xDEADBEEFu;
 
-bool IsOut(char shape) {
-  return std::isupper(static_cast<unsigned char>(shape)) != 0;
-}
+bool IsOut(char shape) { return std::isupper(static_cast<unsigned char>(shape)) != 0; }
 
 /// The n-th positional text, or null.
 const char* PositionalText(const uiox::Call& call, int number) {
@@ -21,9 +19,7 @@ const char* PositionalText(const uiox::Call& call, int number) {
   return nullptr;
 }
 
-bool Equal(const std::optional<std::string>& wanted, const char* text) {
-  return !wanted || (text && *wanted == text);
-}
+bool Equal(const std::optional<std::string>& wanted, const char* text) { return !wanted || (text && *wanted == text); }
 
 void WriteNumber(char shape, uiox::Slot place, std::intptr_t value) {
   if (!place.Pointer()) return;
@@ -79,9 +75,7 @@ Rule& Rule::Give(int option, std::vector<std::string> names) {
   return Set(option, NameList(names.begin(), names.end()));
 }
 
-Rule& Script::When(Match match) {
-  return rules_.emplace_front(std::move(match));
-}
+Rule& Script::When(Match match) { return rules_.emplace_front(std::move(match)); }
 
 bool Script::Answer(const uiox::Call& call, int& result) {
   for (Rule& rule : rules_) {

@@ -44,30 +44,16 @@ struct Match {
   bool Fits(const uiox::Call& call) const;
 };
 
-inline Match Calling(uiox::Function function) {
-  return {function, {}, {}, {}, {}, {}};
-}
-inline Match Doing(int operation) {
-  return {uiox::Function::DoOperation, operation, {}, {}, {}, {}};
-}
+inline Match Calling(uiox::Function function) { return {function, {}, {}, {}, {}, {}}; }
+inline Match Doing(int operation) { return {uiox::Function::DoOperation, operation, {}, {}, {}, {}}; }
 inline Match Doing(int operation, std::string node) {
   return {uiox::Function::DoOperation, operation, std::move(node), {}, {}, {}};
 }
-inline Match Retrieving(int attribute) {
-  return {uiox::Function::Retrieve, {}, {}, {}, {}, {attribute}};
-}
-inline Match Modifying(int attribute) {
-  return {uiox::Function::Modify, {}, {}, {}, {}, {attribute}};
-}
-inline Match Inquiring(int code) {
-  return {uiox::Function::GlobalInquire, {}, {}, {}, {}, {code}};
-}
-inline Match DoingGlobally(int operation) {
-  return {uiox::Function::GlobalDoOperation, operation, {}, {}, {}, {}};
-}
-inline Match Freeing(int attribute) {
-  return {uiox::Function::Free, {}, {}, {}, {}, {attribute}};
-}
+inline Match Retrieving(int attribute) { return {uiox::Function::Retrieve, {}, {}, {}, {}, {attribute}}; }
+inline Match Modifying(int attribute) { return {uiox::Function::Modify, {}, {}, {}, {}, {attribute}}; }
+inline Match Inquiring(int code) { return {uiox::Function::GlobalInquire, {}, {}, {}, {}, {code}}; }
+inline Match DoingGlobally(int operation) { return {uiox::Function::GlobalDoOperation, operation, {}, {}, {}, {}}; }
+inline Match Freeing(int attribute) { return {uiox::Function::Free, {}, {}, {}, {}, {attribute}}; }
 
 /// What to answer. A rule without `Give…` leaves every out-value as it is; without `Refuse` or `Result` it succeeds.
 class Rule {

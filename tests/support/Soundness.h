@@ -20,9 +20,7 @@ testing::AssertionResult IsSound(const uiox::TreeWidget& tree);
 
 /// The same for a `Tree` of the library, and whether its queries say what its widget holds.
 template <class Tree>
-requires requires(const Tree& t) {
-  t.GetDevice();
-}
+requires requires(const Tree& t) { t.GetDevice(); }
 testing::AssertionResult IsSound(const Tree& tree) {
   const uiox::TreeWidget& widget = WidgetOf(tree);
   if (testing::AssertionResult sound = IsSound(widget); !sound) return sound;

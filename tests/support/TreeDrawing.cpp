@@ -12,9 +12,7 @@ namespace {
 
 using uiox::NodeId;
 
-std::wstring WideOf(std::string_view utf8) {
-  return Unescaped(Escaped(utf8));
-}
+std::wstring WideOf(std::string_view utf8) { return Unescaped(Escaped(utf8)); }
 
 struct Line {
   std::size_t indent = 0;
@@ -72,13 +70,9 @@ std::string Normal(std::string_view drawing) {
   return text;
 }
 
-bool IsQuoted(const std::string& word) {
-  return word.size() >= 2 && word.front() == '"' && word.back() == '"';
-}
+bool IsQuoted(const std::string& word) { return word.size() >= 2 && word.front() == '"' && word.back() == '"'; }
 
-std::string Unquoted(const std::string& word) {
-  return IsQuoted(word) ? std::string(word, 1, word.size() - 2) : word;
-}
+std::string Unquoted(const std::string& word) { return IsQuoted(word) ? std::string(word, 1, word.size() - 2) : word; }
 
 /// The text of an escaped narrow one: only the escapes that `Escaped` writes for it.
 std::string Narrow(std::string_view escaped) {
@@ -231,21 +225,13 @@ class Gardener {
 
 }  // namespace
 
-bool operator==(const Drawing& a, const Drawing& b) {
-  return Normal(a.text) == Normal(b.text);
-}
+bool operator==(const Drawing& a, const Drawing& b) { return Normal(a.text) == Normal(b.text); }
 
-std::ostream& operator<<(std::ostream& out, const Drawing& drawing) {
-  return out << '\n' << Normal(drawing.text);
-}
+std::ostream& operator<<(std::ostream& out, const Drawing& drawing) { return out << '\n' << Normal(drawing.text); }
 
-Drawing Drawn(const uiox::TreeWidget& tree, unsigned parts) {
-  return {Artist(tree.Store(), &tree, parts).Draw()};
-}
+Drawing Drawn(const uiox::TreeWidget& tree, unsigned parts) { return {Artist(tree.Store(), &tree, parts).Draw()}; }
 
-Drawing Drawn(const uiox::TreeStore& store, unsigned parts) {
-  return {Artist(store, nullptr, parts).Draw()};
-}
+Drawing Drawn(const uiox::TreeStore& store, unsigned parts) { return {Artist(store, nullptr, parts).Draw()}; }
 
 void Plant(uiox::TreeWidget& tree, std::string_view drawing) {
   Gardener gardener(tree);

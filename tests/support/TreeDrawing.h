@@ -55,19 +55,11 @@ uiox::TreeWidget& WidgetOf(const Component& component) {
   return uiox::Suite::Get().ObtainTree(component.GetDevice(), component.GetName());
 }
 template <class Component>
-requires requires(const Component& c) {
-  c.GetDevice();
-}
-Drawing Drawn(const Component& component, unsigned parts = kMarks) {
-  return Drawn(WidgetOf(component), parts);
-}
+requires requires(const Component& c) { c.GetDevice(); }
+Drawing Drawn(const Component& component, unsigned parts = kMarks) { return Drawn(WidgetOf(component), parts); }
 template <class Component>
-requires requires(const Component& c) {
-  c.GetDevice();
-}
-void Plant(const Component& component, std::string_view drawing) {
-  Plant(WidgetOf(component), drawing);
-}
+requires requires(const Component& c) { c.GetDevice(); }
+void Plant(const Component& component, std::string_view drawing) { Plant(WidgetOf(component), drawing); }
 
 }  // namespace test_support
 

@@ -12,8 +12,6 @@ uiox::TreeWidget& FreshTree(const std::vector<std::string>& columns) {
 
 TreeFixture::TreeFixture(const std::vector<std::string>& columns) : widget(FreshTree(columns)) {}
 
-TreeFixture::~TreeFixture() {
-  suite.Reset();
-}
+TreeFixture::~TreeFixture() { suite.Reset(); }
 
 }  // namespace test_support
