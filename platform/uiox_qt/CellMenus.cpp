@@ -7,8 +7,6 @@
 
 #include <QTreeView>
 
-#include <algorithm>
-
 namespace uiox_qt {
 namespace {
 
@@ -32,6 +30,7 @@ void CellMenus::Follow(uiox::CellPlace cell) {
 
 QComboBox* CellMenus::Put(uiox::CellPlace cell, const uiox::Widget& control) {
   auto* box = new OptionBox;
+  box->SetImageOnly(true);
   const uiox::ControlId id = control.Control();
   QObject::connect(box, &QComboBox::activated, box, [this, id, box](int row) {
     uiox::TreeWidget* tree = model_.Tree();
@@ -41,8 +40,6 @@ QComboBox* CellMenus::Put(uiox::CellPlace cell, const uiox::Widget& control) {
     if (place) uiox::user::ChooseCellOption(*tree, place, item);
   });
   view_.setIndexWidget(model_.IndexOf(cell), box);
-  std::erase_if(places_, [](const Place& place) { return !place.box; });
-  places_.push_back({id, box});
   return box;
 }
 
@@ -52,12 +49,11 @@ void CellMenus::Take(uiox::CellPlace cell) {
 }
 
 void CellMenus::FollowAll() {
-  const uiox::TreeWidget* tree = model_.Tree();
-  if (!tree || model_.IsSuspended() || places_.empty()) return;
-  std::vector<Place> places;
-  places.swap(places_);
-  for (const Place& place : places) {
-    const uiox::CellPlace cell = tree->Store().PlaceOf(place.control);
+  uiox::TreeWidget* tree = model_.Tree();
+  if (!tree || model_.IsSuspended()) return;
+  for (const uiox::Widget* control : tree->Controls()) {
+    if (!IsMenu(control)) continue;
+    const uiox::CellPlace cell = tree->Store().PlaceOf(control->Control());
     if (cell) Follow(cell);
   }
 }

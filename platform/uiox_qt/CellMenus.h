@@ -5,10 +5,6 @@
 
 #include <uiox/TreeWidget.h>
 
-#include <QPointer>
-
-#include <vector>
-
 class QComboBox;
 class QTreeView;
 
@@ -23,23 +19,17 @@ class CellMenus {
 
   /// The cell has another control, or none, or its control changed.
   void Follow(uiox::CellPlace cell);
-  /// After a reset of the model, which has taken all menus out of the view.
+  /// After a reset of the model, which has taken all menus out of the view. Linear in the number of cell controls.
   void FollowAll();
   /// Opens the menu in a cell; false when there is none.
   bool Open(uiox::CellPlace cell);
 
  private:
-  struct Place {
-    uiox::ControlId control;
-    QPointer<QComboBox> box;
-  };
-
   QComboBox* Put(uiox::CellPlace cell, const uiox::Widget& control);
   void Take(uiox::CellPlace cell);
 
   QTreeView& view_;
   const TreeModel& model_;
-  std::vector<Place> places_;
 };
 
 }  // namespace uiox_qt

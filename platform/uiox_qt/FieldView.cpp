@@ -55,9 +55,8 @@ void FieldView::FollowText() {
   const QString text = FromWide(Component()->Text());
   if (text == this->text()) return;
   const int at = cursorPosition();
-  const bool focused = hasFocus();
   setText(text);
-  setCursorPosition(focused ? std::min(at, static_cast<int>(text.size())) : 0);
+  if (hasFocus()) setCursorPosition(std::min(at, static_cast<int>(text.size())));
 }
 
 void FieldView::FollowMark() {

@@ -120,8 +120,10 @@ class LabelPieces {
       if (piece.text) {
         piece.text->Paint(painter, {x, rect.top() + (rect.height() - height) / 2}, end - x, style_.font);
       } else {
-        const qreal image_height = piece.image.deviceIndependentSize().height();
-        painter.drawPixmap(QPointF(qRound(x), qRound(rect.top() + (rect.height() - image_height) / 2)), piece.image);
+        const QSizeF size = piece.image.deviceIndependentSize();
+        const QRectF place(QPointF(qRound(x), qRound(rect.top() + (rect.height() - size.height()) / 2)), size);
+        if (style_.ground.isValid()) painter.fillRect(place.adjusted(-1, -1, 1, 1), style_.ground);
+        painter.drawPixmap(place.topLeft(), piece.image);
       }
       x += piece.width;
     }

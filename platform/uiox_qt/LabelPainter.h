@@ -16,6 +16,7 @@ struct LabelStyle {
   QFont font;
   QColor color;
   bool own_colors = true;  ///< whether the colours of the label's markup are used
+  QColor ground;           ///< put behind images, so that they are seen on any colour; invalid: nothing
   bool center = false;     ///< in the middle of the rectangle rather than at its left
 };
 

@@ -5,8 +5,10 @@
 
 #include <QAbstractItemView>
 #include <QSignalBlocker>
-#include <QStandardItemModel>
+#include <QStylePainter>
 #include <QWheelEvent>
+
+#include <algorithm>
 
 namespace uiox_qt {
 namespace {
@@ -30,6 +32,15 @@ bool HasItems(const QComboBox& box, const std::vector<uiox::Item>& items) {
 QSize OptionBox::minimumSizeHint() const {
   const QSize hint = QComboBox::minimumSizeHint();
   return {hint.width(), std::min(hint.height(), fontMetrics().height() + 4)};
+}
+
+void OptionBox::paintEvent(QPaintEvent*) {
+  QStylePainter painter(this);
+  QStyleOptionComboBox option;
+  initStyleOption(&option);
+  if (image_only_ && !option.currentIcon.isNull()) option.currentText.clear();
+  painter.drawComplexControl(QStyle::CC_ComboBox, option);
+  painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
 void OptionBox::wheelEvent(QWheelEvent* event) { event->ignore(); }

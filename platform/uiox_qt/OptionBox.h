@@ -16,9 +16,15 @@ class OptionBox : public QComboBox {
  public:
   using QComboBox::QComboBox;
   QSize minimumSizeHint() const override;
+  /// In a cell there is seldom room for more than the image of an item that has one.
+  void SetImageOnly(bool image_only) { image_only_ = image_only; }
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  bool image_only_ = false;
 };
 
 /// Gives a combo box the items, the choice and the number of visible items of an option menu. No signal is sent.

@@ -69,7 +69,11 @@ void TreeDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
   if (parts.image.isValid()) {
     const QPixmap image =
         ImagePixmap(model_.ImageName(model_.NodeOf(index)), kIconSide, painter->device()->devicePixelRatioF());
-    painter->drawPixmap(Centered(image.deviceIndependentSize().toSize(), parts.image).topLeft(), image);
+    const QRect place = Centered(image.deviceIndependentSize().toSize(), parts.image);
+    if (option.state & QStyle::State_Selected) {
+      painter->fillRect(place.adjusted(-1, -1, 1, 1), option.palette.color(QPalette::Base));
+    }
+    painter->drawPixmap(place.topLeft(), image);
   }
   if (parts.text.isValid()) PaintText(*painter, option, index, parts.text);
   if (option.state & QStyle::State_HasFocus) {
@@ -104,6 +108,7 @@ void TreeDelegate::PaintText(QPainter& painter, const QStyleOptionViewItem& opti
   style.font = option.font;
   style.color = option.palette.color(group, selected ? QPalette::HighlightedText : QPalette::Text);
   style.own_colors = !selected;
+  if (selected) style.ground = option.palette.color(group, QPalette::Base);
   const QString label = index.data(TreeModel::MarkupRole).toString();
   const bool markup = model_.ColumnAt(index.column()).markup;
   style.center = index.column() > 0 && markup && label.startsWith(u'<');

@@ -135,6 +135,7 @@ std::string_view TreeModel::ImageName(NodeId node) const {
 
 QVariant TreeModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal || section < 0 || section >= columnCount()) return {};
+  if (role == Qt::TextAlignmentRole && section > 0) return Qt::AlignCenter;
   if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
   return FromWide(ColumnAt(section).title);
 }
