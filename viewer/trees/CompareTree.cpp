@@ -195,6 +195,11 @@ CompareLook CompareTree::LookOf(std::size_t subject) const {
   return {compare->colorA, compare->colorB, compare->colorOverlap, compare->showMode, compare->dim == Checked};
 }
 
+std::size_t CompareTree::SubjectOf(const std::string& node) const {
+  const auto found = positions_.find(node);
+  return found == positions_.end() ? kNone : found->second;
+}
+
 std::size_t CompareTree::NextDifference(std::size_t from, bool backwards,
                                         const std::function<bool(std::size_t)>& accept) const {
   const std::size_t count = subjects_.size();
@@ -216,7 +221,7 @@ void CompareTree::OnSelect(int count, char** nodes, int /*kind*/) {
     std::vector<std::string> leaves;
     GetLeaves(nodes[i], leaves);
     for (const std::string& leaf : leaves) {
-      if (const auto found = positions_.find(leaf); found != positions_.end()) selected_.push_back(found->second);
+      if (const std::size_t subject = SubjectOf(leaf); subject != kNone) selected_.push_back(subject);
     }
   }
   std::sort(selected_.begin(), selected_.end());

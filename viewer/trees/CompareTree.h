@@ -54,6 +54,7 @@ struct CompareSubject {
 class CompareTree : public oxecad_ui::CompareColorTree {
  public:
   static constexpr const char* kName = "compare";
+  static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
   /// The colours that everything has at first.
   static constexpr Color kColorA = ColorOf(0x56, 0xB4, 0xE9);
@@ -83,9 +84,11 @@ class CompareTree : public oxecad_ui::CompareColorTree {
   /// Positions of the subjects selected, in ascending order; a heading stands for all below it.
   const std::vector<std::size_t>& Selected() const { return selected_; }
 
+  /// The position of the subject that a node stands for; kNone for a heading.
+  std::size_t SubjectOf(const std::string& node) const;
+
   /// The position of the next subject that differs, after `from` and round the end; `backwards` goes the other way.
   /// `accept` may refuse subjects. kNone when there is none.
-  static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
   std::size_t NextDifference(std::size_t from, bool backwards, const std::function<bool(std::size_t)>& accept) const;
 
   /// Whether a subject's name or difference holds the text (UTF-8, ASCII letters in any case).

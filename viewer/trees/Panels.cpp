@@ -13,9 +13,9 @@ struct Panel {
   const char* resource;
 };
 
-constexpr std::array kPanels{Panel{kLayersPanel, "layers.json"}, Panel{kNetsPanel, "nets.json"},
+constexpr std::array kPanels{Panel{kLayersPanel, "layers.json"},         Panel{kNetsPanel, "nets.json"},
                              Panel{kComponentsPanel, "components.json"}, Panel{kObjectsPanel, "objects.json"},
-                             Panel{kComparePanel, "compare.json"}};
+                             Panel{kComparePanel, "compare.json"},       Panel{kSettingsPanel, "settings.json"}};
 
 }  // namespace
 

@@ -14,6 +14,7 @@ constexpr const char* kNetsPanel = "oxviewer.nets";
 constexpr const char* kComponentsPanel = "oxviewer.components";
 constexpr const char* kObjectsPanel = "oxviewer.objects";
 constexpr const char* kComparePanel = "oxviewer.compare";
+constexpr const char* kSettingsPanel = "oxviewer.settings";
 
 /// Makes the viewer's devices where they are missing, from the descriptions that are part of the program. Throws
 /// std::logic_error, which says why, when a description is wrong.

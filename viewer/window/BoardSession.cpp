@@ -1,0 +1,262 @@
+#include <viewer/window/BoardSession.h>
+
+#include <QLocale>
+#include <QStringList>
+
+#include <algorithm>
+#include <map>
+#include <utility>
+
+namespace oxviewer {
+namespace {
+
+constexpr double kUnselectedDim = 0.7;
+
+QRgb ToRgb(Color color) { return qRgb(RedOf(color), GreenOf(color), BlueOf(color)); }
+
+QString Text(const std::string& utf8) { return QString::fromStdString(utf8); }
+
+QString Millimetres(Nm length) { return QLocale::c().toString(length * kMillimetresPerNm, 'g', 6) + " mm"; }
+
+void Set(std::vector<bool>& marks, std::size_t id) {
+  if (marks.size() <= id) marks.resize(id + 1, false);
+  marks[id] = true;
+}
+
+Color DimmedColor(Color color, QRgb background) {
+  if (color == kNoColor) return color;
+  const QRgb dimmed = Blended(ToRgb(color), background, kUnselectedDim);
+  return ColorOf(static_cast<unsigned>(qRed(dimmed)), static_cast<unsigned>(qGreen(dimmed)),
+                 static_cast<unsigned>(qBlue(dimmed)));
+}
+
+// United with an area that may be as thin as a line.
+void Extend(QRectF& bounds, bool& any, const QRectF& area) {
+  if (!std::exchange(any, true)) {
+    bounds = area;
+    return;
+  }
+  bounds = QRectF(QPointF(std::min(bounds.left(), area.left()), std::min(bounds.top(), area.top())),
+                  QPointF(std::max(bounds.right(), area.right()), std::max(bounds.bottom(), area.bottom())));
+}
+
+template <class Accept>
+void ExtendByItems(const BoardGeometry& geometry, QRectF& bounds, bool& any, const Accept& accept) {
+  for (std::size_t i = 0; i < geometry.layers.size(); ++i) {
+    const LayerGeometry& layer = geometry.layers[i];
+    const auto id = static_cast<LayerId>(i);
+    for (const LineItem& item : layer.lines) {
+      if (accept(item.origin, id)) Extend(bounds, any, QRectF(item.line.p1(), item.line.p2()).normalized());
+    }
+    for (const AreaItem& item : layer.areas) {
+      if (accept(item.origin, id)) Extend(bounds, any, item.box);
+    }
+  }
+}
+
+}  // namespace
+
+BoardSession::BoardSession(LoadedBoards boards, oxcore::Mainframe* mainframe)
+    : boards_(std::move(boards)),
+      a_(BoardGeometry::Make(*boards_.a)),
+      b_(boards_.b ? BoardGeometry::Make(*boards_.b) : nullptr),
+      trees_(boards_.b ? std::make_unique<BoardTrees>(*boards_.a, *boards_.b, *boards_.diff, mainframe)
+                       : std::make_unique<BoardTrees>(*boards_.a, mainframe)),
+      netColors_(boards_.a->nets.size(), kNoColor) {}
+
+std::shared_ptr<const Scene> BoardSession::MakeScene(const ViewStyle& view) const {
+  if (IsComparing()) return std::make_shared<CompareScene>(a_, b_, CompareStyleOf(view));
+  return std::make_shared<BoardScene>(a_, StyleOf(view));
+}
+
+BoardStyle BoardSession::StyleOf(const ViewStyle& view) const {
+  BoardStyle style;
+  style.view = view;
+  const LayerTree& layers = trees_->Layers();
+  for (std::size_t i = 0; i < A().layers.size(); ++i) {
+    const auto id = static_cast<LayerId>(i);
+    style.layers.push_back({layers.IsVisible(id), ToRgb(layers.ColorOfLayer(id))});
+  }
+  style.activeLayer = layers.ActiveLayer();
+  for (const Color color : netColors_) style.netColors.push_back(color == kNoColor ? 0 : ToRgb(color));
+  style.marked = Selection();
+  style.marked.Add(highlighted_);
+  style.isolated = isolated_;
+  return style;
+}
+
+CompareStyle BoardSession::CompareStyleOf(const ViewStyle& view) const {
+  CompareStyle style;
+  style.view = view;
+  style.looks.push_back({CompareTree::kColorA, CompareTree::kColorB, CompareTree::kColorOverlap,
+                         oxk::ecad::CompareColorVis::Both, false});
+  for (const auto& [board, table] : {std::pair(boards_.a.get(), &style.a), std::pair(boards_.b.get(), &style.b)}) {
+    table->nets.assign(board->nets.size(), 0);
+    table->components.assign(board->components.size(), 0);
+    table->layers.assign(board->layers.size(), 0);
+  }
+  const CompareTree& compare = *trees_->Compare();
+  const std::vector<std::size_t>& selected = compare.Selected();
+  const bool dimOthers = !selected.empty() && selected.size() < compare.Subjects().size();
+  const auto tableOf = [](LookTable& tables, CompareSubject::Kind kind) -> std::vector<std::uint32_t>& {
+    if (kind == CompareSubject::Kind::Net) return tables.nets;
+    return kind == CompareSubject::Kind::Component ? tables.components : tables.layers;
+  };
+  for (std::size_t i = 0; i < compare.Subjects().size(); ++i) {
+    const CompareSubject& subject = compare.Subjects()[i];
+    CompareLook look = compare.LookOf(i);
+    if (dimOthers && !std::binary_search(selected.begin(), selected.end(), i)) {
+      for (Color* color : {&look.colorA, &look.colorB, &look.colorOverlap}) {
+        *color = DimmedColor(*color, view.background);
+      }
+    }
+    const auto known = std::find(style.looks.begin(), style.looks.end(), look);
+    const auto number = static_cast<std::uint32_t>(known - style.looks.begin());
+    if (known == style.looks.end()) style.looks.push_back(look);
+    if (subject.a >= 0) tableOf(style.a, subject.kind)[static_cast<std::size_t>(subject.a)] = number;
+    if (subject.b >= 0) tableOf(style.b, subject.kind)[static_cast<std::size_t>(subject.b)] = number;
+  }
+  style.layers = VisibleLayers();
+  return style;
+}
+
+// The layers of A that are visible, each with that of the same name of B; a layer that only B has is visible.
+std::vector<LayerPair> BoardSession::VisibleLayers() const {
+  std::map<std::string_view, LayerId> ofB;
+  for (std::size_t i = 0; i < boards_.b->layers.size(); ++i) {
+    ofB.emplace(boards_.b->layers[i].name, static_cast<LayerId>(i));
+  }
+  std::vector<LayerPair> pairs;
+  for (const LayerId id : a_->backToFront) {
+    LayerPair pair{id, kNoLayer};
+    if (const auto found = ofB.find(A().layers[static_cast<std::size_t>(id)].name); found != ofB.end()) {
+      pair.b = found->second;
+      ofB.erase(found);
+    }
+    if (trees_->Layers().IsVisible(id)) pairs.push_back(pair);
+  }
+  for (const auto& [name, id] : ofB) pairs.push_back({kNoLayer, id});
+  return pairs;
+}
+
+Marks BoardSession::MarksOf(const std::vector<const oxviewer::Component*>& components) const {
+  Marks marks;
+  for (const Component* component : components) {
+    Set(marks.components, static_cast<std::size_t>(component - A().components.data()));
+  }
+  return marks;
+}
+
+Marks BoardSession::Selection() const {
+  Marks marks = MarksOf(trees_->Parts().Selected());
+  for (const void* net : trees_->Nets().SelectedObjects()) {
+    Set(marks.nets, static_cast<std::size_t>(static_cast<const Net*>(net) - A().nets.data()));
+  }
+  for (const void* component : trees_->Components().SelectedObjects()) {
+    Set(marks.components, static_cast<std::size_t>(static_cast<const Component*>(component) - A().components.data()));
+  }
+  return marks;
+}
+
+void BoardSession::Highlight(bool add) {
+  if (!add) highlighted_ = {};
+  highlighted_.Add(Selection());
+}
+
+void BoardSession::Isolate(bool add) {
+  if (!add) isolated_ = {};
+  isolated_.Add(Selection());
+}
+
+void BoardSession::ClearMarks() {
+  highlighted_ = {};
+  isolated_ = {};
+}
+
+void BoardSession::SetNetColors(const std::vector<NetId>& nets, Color color) {
+  for (const NetId net : nets) {
+    netColors_[static_cast<std::size_t>(net)] = color;
+    trees_->Nets().SetType(A().nets[static_cast<std::size_t>(net)],
+                           color == kNoColor ? NetTree::kPlainType : trees_->Layers().TypeOfColor(color));
+  }
+}
+
+std::vector<NetId> BoardSession::SelectedNets() const {
+  std::vector<NetId> nets;
+  for (const void* net : trees_->Nets().SelectedObjects()) {
+    nets.push_back(static_cast<NetId>(static_cast<const Net*>(net) - A().nets.data()));
+  }
+  return nets;
+}
+
+std::vector<QRectF> BoardSession::FramesOfSelection() const {
+  std::vector<QRectF> frames;
+  const Marks marks = Selection();
+  for (std::size_t i = 0; i < marks.components.size(); ++i) {
+    if (marks.components[i] && !a_->componentBoxes[i].isNull()) frames.push_back(a_->componentBoxes[i]);
+  }
+  return frames;
+}
+
+QRectF BoardSession::BoundsOf(const Marks& marks) const {
+  QRectF bounds;
+  bool any = false;
+  ExtendByItems(*a_, bounds, any, [&](const ItemOrigin& origin, LayerId) { return marks.Has(origin); });
+  return any ? bounds : a_->bounds;
+}
+
+QRectF BoardSession::BoundsOfSubject(std::size_t number) const {
+  const CompareSubject& subject = trees_->Compare()->Subjects()[number];
+  QRectF bounds;
+  bool any = false;
+  for (const auto& [geometry, id] : {std::pair(a_.get(), subject.a), std::pair(b_.get(), subject.b)}) {
+    if (id < 0) continue;
+    ExtendByItems(*geometry, bounds, any, [&, wanted = id](const ItemOrigin& origin, LayerId layer) {
+      switch (subject.kind) {
+        case CompareSubject::Kind::Net:
+          return origin.net == wanted;
+        case CompareSubject::Kind::Component:
+          return origin.component == wanted;
+        case CompareSubject::Kind::Layer:
+          break;
+      }
+      return layer == wanted;
+    });
+  }
+  return any ? bounds : a_->bounds.united(b_->bounds);
+}
+
+std::optional<Hit> BoardSession::HitAt(QPointF place, double tolerance) const {
+  return HitTest(*a_, place, tolerance, [this](LayerId layer) { return trees_->Layers().IsVisible(layer); });
+}
+
+QString BoardSession::DescriptionOf(const Hit& hit) const {
+  QStringList words;
+  const auto index = static_cast<std::size_t>(hit.origin.index);
+  switch (hit.origin.kind) {
+    case ItemKind::Track:
+      words << "Track " + Millimetres(A().tracks[index].width);
+      break;
+    case ItemKind::Via:
+      words << "Via " + Millimetres(A().vias[index].size);
+      break;
+    case ItemKind::Zone:
+      words << (A().zones[index].keepout ? "Rule area" : "Zone");
+      break;
+    case ItemKind::Drawing:
+      words << "Drawing";
+      break;
+    case ItemKind::Pad:
+      words << "Pad " + Text(A().pads[index].number);
+      break;
+  }
+  if (hit.origin.component != kNoComponent) {
+    const Component& component = A().components[static_cast<std::size_t>(hit.origin.component)];
+    words << Text(ComponentLabel(component)) + (component.value.empty() ? QString() : " " + Text(component.value));
+  }
+  if (hit.origin.net != kNoNet) words << "net " + Text(A().nets[static_cast<std::size_t>(hit.origin.net)].name);
+  words << Text(LayerLabel(A().layers[static_cast<std::size_t>(hit.layer)]));
+  return words.join(QStringLiteral("  ·  "));
+}
+
+}  // namespace oxviewer

@@ -1,0 +1,81 @@
+#include <viewer/window/Brushwork.h>
+
+#include <QPen>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace oxviewer {
+namespace {
+
+constexpr double kThinnestInPixels = 1.0;
+constexpr double kInvisibleInPixels = 0.2;
+constexpr std::size_t kLot = 512;  // between two questions whether the picture is still wanted
+constexpr std::array kKinds{ItemKind::Zone, ItemKind::Drawing, ItemKind::Track, ItemKind::Pad, ItemKind::Via};
+
+int BlendedChannel(int from, int to, double share) { return static_cast<int>(std::lround(from + (to - from) * share)); }
+
+}  // namespace
+
+QRgb Blended(QRgb from, QRgb to, double share) {
+  return qRgba(BlendedChannel(qRed(from), qRed(to), share), BlendedChannel(qGreen(from), qGreen(to), share),
+               BlendedChannel(qBlue(from), qBlue(to), share), qAlpha(from));
+}
+
+Brushwork::Brushwork(const Viewport& viewport, double thinnest)
+    : area_(viewport.Area()),
+      thinnest_(std::max(thinnest, kThinnestInPixels / viewport.pixelsPerMm)),
+      smallest_(kInvisibleInPixels / viewport.pixelsPerMm) {}
+
+void Brushwork::Add(const LayerGeometry& layer, const ColorOfItem& colorOf) {
+  layer.grid.Find(area_, found_);
+  for (const std::uint32_t found : found_) {
+    if (found < layer.lines.size()) {
+      const LineItem& item = layer.lines[found];
+      const QRgb color = colorOf(item.origin);
+      if (qAlpha(color) != 0) lines_[{item.origin.kind, color, std::max(item.width, thinnest_)}].push_back(item.line);
+    } else {
+      const AreaItem& item = layer.areas[found - layer.lines.size()];
+      if (item.box.width() < smallest_ && item.box.height() < smallest_) continue;
+      const QRgb color = colorOf(item.origin);
+      if (qAlpha(color) != 0) areas_[{item.origin.kind, color}].push_back(&item.path);
+    }
+  }
+}
+
+bool Brushwork::PaintAreas(QPainter& painter, ItemKind kind, const IsStale& isStale) const {
+  painter.setPen(Qt::NoPen);
+  std::size_t painted = 0;
+  for (const auto& [key, paths] : areas_) {
+    if (key.first != kind) continue;
+    painter.setBrush(QColor::fromRgba(key.second));
+    for (const QPainterPath* path : paths) {
+      if (++painted % kLot == 0 && isStale()) return false;
+      painter.drawPath(*path);
+    }
+  }
+  return true;
+}
+
+bool Brushwork::PaintLines(QPainter& painter, ItemKind kind, const IsStale& isStale) const {
+  painter.setBrush(Qt::NoBrush);
+  for (const auto& [key, lines] : lines_) {
+    if (std::get<0>(key) != kind) continue;
+    painter.setPen(QPen(QColor::fromRgba(std::get<1>(key)), std::get<2>(key), Qt::SolidLine, Qt::RoundCap));
+    for (std::size_t first = 0; first < lines.size(); first += kLot) {
+      if (isStale()) return false;
+      painter.drawLines(lines.data() + first, static_cast<int>(std::min(kLot, lines.size() - first)));
+    }
+  }
+  return true;
+}
+
+bool Brushwork::Paint(QPainter& painter, const IsStale& isStale) const {
+  for (const ItemKind kind : kKinds) {
+    if (!PaintAreas(painter, kind, isStale) || !PaintLines(painter, kind, isStale)) return false;
+  }
+  return true;
+}
+
+}  // namespace oxviewer

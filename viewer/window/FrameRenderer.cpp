@@ -1,0 +1,70 @@
+#include <viewer/window/FrameRenderer.h>
+
+#include <QMetaObject>
+#include <QPainter>
+
+#include <utility>
+
+namespace oxviewer {
+
+FrameRenderer::FrameRenderer(QObject* parent) : QObject(parent), worker_([this] { Work(); }) {}
+
+FrameRenderer::~FrameRenderer() {
+  {
+    const std::lock_guard lock(mutex_);
+    ending_ = true;
+    order_.reset();
+    ++latest_;
+  }
+  wanted_.notify_one();
+  worker_.join();
+}
+
+void FrameRenderer::Request(std::shared_ptr<const Scene> scene, const Viewport& viewport, double ratio) {
+  {
+    const std::lock_guard lock(mutex_);
+    order_ = std::make_unique<Order>(Order{std::move(scene), viewport, ratio, ++latest_});
+  }
+  wanted_.notify_one();
+}
+
+void FrameRenderer::Cancel() {
+  const std::lock_guard lock(mutex_);
+  order_.reset();
+  ++latest_;
+}
+
+Frame FrameRenderer::Render(std::shared_ptr<const Scene> scene, const Viewport& viewport, double ratio,
+                            const IsStale& isStale) {
+  QImage image((QSizeF(viewport.size) * ratio).toSize(), QImage::Format_RGB32);
+  image.setDevicePixelRatio(ratio);
+  {
+    QPainter painter(&image);
+    scene->Paint(painter, viewport, isStale);
+  }
+  return {std::move(image), viewport, std::move(scene), ratio};
+}
+
+void FrameRenderer::Work() {
+  std::unique_lock lock(mutex_);
+  while (true) {
+    wanted_.wait(lock, [this] { return ending_ || order_; });
+    if (ending_) return;
+    const std::unique_ptr<Order> order = std::move(order_);
+    lock.unlock();
+    const std::uint64_t number = order->number;
+    const auto isStale = [this, number] { return latest_.load(std::memory_order_relaxed) != number; };
+    Frame frame = Render(order->scene, order->viewport, order->ratio, isStale);
+    if (!isStale()) {
+      QMetaObject::invokeMethod(
+          this, [this, frame = std::move(frame), number] { Deliver(frame, number); }, Qt::QueuedConnection);
+    }
+    lock.lock();
+  }
+}
+
+void FrameRenderer::Deliver(const Frame& frame, std::uint64_t number) {
+  if (latest_.load(std::memory_order_relaxed) == number) Q_EMIT FrameReady(frame);
+}
+
+}  // namespace oxviewer

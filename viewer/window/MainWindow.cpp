@@ -1,0 +1,198 @@
+#include <viewer/trees/Panels.h>
+#include <viewer/window/BoardSession.h>
+#include <viewer/window/BoardView.h>
+#include <viewer/window/ComparePanel.h>
+#include <viewer/window/MainWindow.h>
+#include <viewer/window/MainWindowActions.h>
+#include <viewer/window/Mainframe.h>
+#include <viewer/window/TreePanel.h>
+
+#include <QApplication>
+#include <QDragEnterEvent>
+#include <QFileInfo>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include <utility>
+
+#include <uicomps/toolkit/DeviceCalls.h>
+#include <uiox_qt/QtFront.h>
+#include <uiox_qt/TreeView.h>
+
+namespace oxviewer {
+namespace {
+
+constexpr int kPanelWidth = 290;
+constexpr int kComparisonWidth = 470;
+
+TreePanel* MakePanel(uiox_qt::QtFront& front, const char* device, const char* tree, const QString& placeholder) {
+  return new TreePanel(*front.TreeViewFor(device, tree), placeholder);
+}
+
+QString FileName(const Board& board) { return QFileInfo(QString::fromStdString(board.name)).fileName(); }
+
+// The first local file that something dragged brings along.
+QString BoardIn(const QMimeData& data) {
+  for (const QUrl& url : data.urls()) {
+    if (url.isLocalFile()) return url.toLocalFile();
+  }
+  return {};
+}
+
+}  // namespace
+
+MainWindow::MainWindow(uiox_qt::QtFront& front, const Remembered& remembered, bool keeps)
+    : front_(front),
+      remembered_(remembered),
+      keeps_(keeps),
+      mainframe_(std::make_unique<oxcore::Mainframe>(*this)),
+      actions_(std::make_unique<Actions>()),
+      view_(new BoardView),
+      layers_(nullptr),
+      nets_(nullptr),
+      components_(nullptr),
+      parts_(nullptr),
+      compare_(nullptr),
+      tabs_(new QTabWidget),
+      splitter_(new QSplitter(Qt::Horizontal)),
+      place_(new QLabel),
+      zoom_(new QLabel),
+      facts_(new QLabel) {
+  setAcceptDrops(true);
+  front_.SetMainWindow(this);
+  CreatePanels();
+  settings_ = std::make_unique<ViewSettings>(kSettingsPanel);
+  settings_->Init();
+  settings_->SetUnits(remembered_.viewUnits);
+  settings_->SetValues(remembered_.view);
+  settings_->SetOnChange([this] { TakeSettings(); });
+  MakePanels();
+  MakeStatusBar();
+  MakeActions();
+  ConnectView();
+  TakeSettings();
+  view_->SetHint(tr("Open a board with Ctrl+O, or drop a .kicad_pcb file here"));
+  UpdateActions();
+  UpdateTitle();
+}
+
+MainWindow::~MainWindow() {
+  view_->SetScene(nullptr);
+  compare_->SetTree(nullptr);
+  session_.reset();
+  front_.SetMainWindow(nullptr);
+}
+
+void MainWindow::MakePanels() {
+  layers_ = MakePanel(front_, kLayersPanel, LayerTree::kName, tr("Filter layers"));
+  nets_ = MakePanel(front_, kNetsPanel, NetTree::kName, tr("Filter nets"));
+  components_ = MakePanel(front_, kComponentsPanel, ComponentTree::kName, tr("Filter components"));
+  parts_ = MakePanel(front_, kObjectsPanel, PartTree::kName, tr("Filter by reference, value or footprint"));
+  compare_ = new ComparePanel(*front_.TreeViewFor(kComparePanel, CompareTree::kName));
+  parts_->SetFilterAction([this](const QString& text) {
+    if (session_) session_->Trees().Parts().SetFilter(text.toStdString());
+  });
+  for (const char* device :
+       {kLayersPanel, kNetsPanel, kComponentsPanel, kObjectsPanel, kComparePanel, kSettingsPanel}) {
+    oxecad_ui::wire::ShowDevice(device);
+  }
+  tabs_->setDocumentMode(true);
+  tabs_->addTab(nets_, tr("Nets"));
+  tabs_->addTab(components_, tr("Components"));
+  tabs_->addTab(parts_, tr("Kinds"));
+
+  auto* layerSide = new QTabWidget;
+  layerSide->setDocumentMode(true);
+  layerSide->addTab(layers_, tr("Layers"));
+  layerSide->addTab(front_.WidgetFor(kSettingsPanel), tr("View"));
+  auto* left = new QSplitter(Qt::Vertical);
+  left->addWidget(layerSide);
+  left->addWidget(tabs_);
+  left->setSizes({1000, 1200});
+  splitter_->addWidget(left);
+  splitter_->addWidget(view_);
+  splitter_->addWidget(compare_);
+  splitter_->setStretchFactor(0, 0);
+  splitter_->setStretchFactor(1, 1);
+  splitter_->setStretchFactor(2, 0);
+  splitter_->setChildrenCollapsible(false);
+  splitter_->setSizes({kPanelWidth, 1000, kComparisonWidth});
+  compare_->hide();
+  setCentralWidget(splitter_);
+}
+
+void MainWindow::MakeStatusBar() {
+  statusBar()->addPermanentWidget(facts_);
+  statusBar()->addPermanentWidget(place_);
+  statusBar()->addPermanentWidget(zoom_);
+  place_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("X 0000.000 mm  Y 0000.000 mm  ")));
+  zoom_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("00000 px/mm ")));
+  for (QLabel* label : {facts_, place_, zoom_}) label->setContentsMargins(6, 0, 6, 0);
+}
+
+void MainWindow::ShowBoards(LoadedBoards boards) {
+  view_->SetScene(nullptr);
+  compare_->SetTree(nullptr);
+  for (TreePanel* panel : {layers_, nets_, components_, parts_, &compare_->Panel()}) panel->FilterLine().clear();
+  session_.reset();
+  if (boards.a) session_ = std::make_unique<BoardSession>(std::move(boards), mainframe_.get());
+  compare_->setVisible(session_ && session_->IsComparing());
+  if (session_) {
+    ConnectTrees();
+    compare_->SetTree(session_->Trees().Compare());
+    view_->SetScene(session_->MakeScene(viewStyle_));
+  }
+  view_->SetFrames({});
+  UpdateActions();
+  UpdateTitle();
+}
+
+void MainWindow::OpenBoards(const std::string& a, const std::optional<std::string>& b) {
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+  auto loaded = LoadBoards(a, b);
+  QApplication::restoreOverrideCursor();
+  if (!loaded) {
+    QMessageBox::warning(this, tr("The board cannot be opened"), QString::fromStdString(loaded.error().ToLine()));
+    return;
+  }
+  ShowBoards(std::move(*loaded));
+}
+
+void MainWindow::UpdateTitle() {
+  if (!session_) {
+    setWindowTitle(tr("oxviewer"));
+    facts_->clear();
+    return;
+  }
+  const Board& a = session_->A();
+  QString name = FileName(a);
+  if (session_->IsComparing()) name = tr("%1 and %2").arg(name, FileName(*session_->Boards().b));
+  setWindowTitle(tr("%1 – oxviewer").arg(name));
+  facts_->setText(tr("%1 layers  ·  %2 nets  ·  %3 components")
+                      .arg(a.DeclaredLayerCount())
+                      .arg(a.nets.size())
+                      .arg(a.components.size()));
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (!BoardIn(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  const QString file = BoardIn(*event->mimeData());
+  if (file.isEmpty()) return;
+  event->acceptProposedAction();
+  // The dragging program waits until this has returned.
+  QMetaObject::invokeMethod(
+      this, [this, file] { OpenBoards(file.toStdString(), std::nullopt); }, Qt::QueuedConnection);
+}
+
+}  // namespace oxviewer

@@ -1,0 +1,223 @@
+#include <viewer/window/BoardSession.h>
+#include <viewer/window/BoardView.h>
+#include <viewer/window/ComparePanel.h>
+#include <viewer/window/MainWindow.h>
+#include <viewer/window/MainWindowActions.h>
+#include <viewer/window/ToolIcons.h>
+#include <viewer/window/TreePanel.h>
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QFileDialog>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QToolBar>
+
+#include <uicomps/dialogs/DefaultActions.h>
+#include <uiox_qt/TreeView.h>
+
+namespace oxviewer {
+namespace {
+
+constexpr double kZoomStep = 1.5;
+
+template <class Do>
+QAction* Add(QMenu& menu, const QString& text, const QKeySequence& key, Do run) {
+  QAction* action = menu.addAction(text);
+  action->setShortcut(key);
+  QObject::connect(action, &QAction::triggered, &menu, run);
+  return action;
+}
+
+void GiveSign(QAction& action, ToolSign sign, QToolBar& bar) {
+  action.setIcon(ToolIcon(sign));
+  action.setIconVisibleInMenu(false);
+  QString tip = action.text().remove('&').remove(QStringLiteral("…"));
+  if (!action.shortcut().isEmpty()) tip += " (" + action.shortcut().toString(QKeySequence::NativeText) + ")";
+  action.setToolTip(tip);
+  bar.addAction(&action);
+}
+
+}  // namespace
+
+void MainWindow::MakeActions() {
+  actions_->bar = addToolBar(tr("Tools"));
+  actions_->bar->setObjectName(QStringLiteral("tools"));
+  actions_->bar->setMovable(false);
+  actions_->bar->setIconSize(QSize(18, 18));
+  MakeFileMenu();
+  actions_->bar->addSeparator();
+  MakeViewMenu();
+  actions_->bar->addSeparator();
+  MakeSelectMenu();
+  actions_->bar->addSeparator();
+  MakeCompareMenu();
+  MakeHelpMenu();
+  MakeContextMenus();
+}
+
+void MainWindow::MakeFileMenu() {
+  QMenu& menu = *menuBar()->addMenu(tr("&File"));
+  QAction* open = Add(menu, tr("&Open…"), QKeySequence::Open, [this] { AskForBoard(); });
+  GiveSign(*open, ToolSign::Open, *actions_->bar);
+  actions_->compareWith =
+      Add(menu, tr("&Compare with…"), QKeySequence(Qt::CTRL | Qt::Key_D), [this] { AskForComparison(); });
+  actions_->savePicture =
+      Add(menu, tr("Save &picture…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), [this] { SavePicture(); });
+  menu.addSeparator();
+  Add(menu, tr("&Quit"), QKeySequence::Quit, [this] { close(); });
+}
+
+void MainWindow::MakeViewMenu() {
+  QMenu& menu = *menuBar()->addMenu(tr("&View"));
+  actions_->fit = Add(menu, tr("&Whole board"), Qt::CTRL | Qt::Key_0, [this] { view_->FitAll(); });
+  actions_->fitSelection = Add(menu, tr("&Selection"), Qt::CTRL | Qt::Key_E, [this] {
+    if (session_) ShowPart(session_->Selection());
+  });
+  actions_->zoomIn = Add(menu, tr("Zoom &in"), QKeySequence::ZoomIn, [this] { view_->ZoomBy(kZoomStep); });
+  actions_->zoomOut = Add(menu, tr("Zoom &out"), QKeySequence::ZoomOut, [this] { view_->ZoomBy(1 / kZoomStep); });
+  actions_->flip = menu.addAction(tr("Seen from the &back"));
+  actions_->flip->setShortcut(Qt::CTRL | Qt::Key_B);
+  actions_->flip->setCheckable(true);
+  connect(actions_->flip, &QAction::toggled, view_, &BoardView::SetSeenFromBack);
+  GiveSign(*actions_->fit, ToolSign::Fit, *actions_->bar);
+  GiveSign(*actions_->zoomIn, ToolSign::ZoomIn, *actions_->bar);
+  GiveSign(*actions_->zoomOut, ToolSign::ZoomOut, *actions_->bar);
+  GiveSign(*actions_->flip, ToolSign::Flip, *actions_->bar);
+  menu.addSeparator();
+  MakeUnitMenu(*menu.addMenu(tr("&Units")));
+  MakeThemeMenu(*menu.addMenu(tr("&Theme")));
+}
+
+void MainWindow::MakeUnitMenu(QMenu& menu) {
+  auto* group = new QActionGroup(this);
+  const std::pair<DisplayUnit, QString> units[] = {{DisplayUnit::Millimetre, tr("&Millimetres")},
+                                                   {DisplayUnit::Mil, tr("Mi&ls")},
+                                                   {DisplayUnit::Inch, tr("&Inches")}};
+  for (const auto& [unit, text] : units) {
+    QAction* action = group->addAction(menu.addAction(text));
+    action->setCheckable(true);
+    action->setChecked(unit == remembered_.unit);
+    connect(action, &QAction::triggered, this, [this, chosen = unit] {
+      remembered_.unit = chosen;
+      Keep();
+    });
+  }
+}
+
+void MainWindow::MakeThemeMenu(QMenu& menu) {
+  auto* group = new QActionGroup(this);
+  const std::pair<Theme, QString> themes[] = {
+      {Theme::System, tr("As the &system")}, {Theme::Light, tr("&Light")}, {Theme::Dark, tr("&Dark")}};
+  for (const auto& [theme, text] : themes) {
+    QAction* action = group->addAction(menu.addAction(text));
+    action->setCheckable(true);
+    action->setChecked(theme == remembered_.theme);
+    connect(action, &QAction::triggered, this, [this, chosen = theme] {
+      remembered_.theme = chosen;
+      ApplyTheme(chosen);
+      Keep();
+    });
+  }
+}
+
+void MainWindow::MakeSelectMenu() {
+  QMenu& menu = *menuBar()->addMenu(tr("&Selection"));
+  actions_->highlight = Add(menu, tr("&Highlight"), Qt::Key_H, [this] { HighlightSelection(); });
+  actions_->isolate = Add(menu, tr("&Isolate"), Qt::Key_I, [this] { IsolateSelection(); });
+  actions_->clear = Add(menu, tr("&Clear"), Qt::Key_Escape, [this] { ClearMarks(); });
+  GiveSign(*actions_->highlight, ToolSign::Highlight, *actions_->bar);
+  GiveSign(*actions_->isolate, ToolSign::Isolate, *actions_->bar);
+  GiveSign(*actions_->clear, ToolSign::Clear, *actions_->bar);
+  menu.addSeparator();
+  QAction* addHighlights = menu.addAction(tr("Highlighting &adds to what is highlighted"));
+  addHighlights->setCheckable(true);
+  addHighlights->setChecked(keeps_ && oxecad_ui::IsAddToHighlightsDefaultAction());
+  connect(addHighlights, &QAction::triggered, this,
+          [](bool add) { oxecad_ui::SetHighlightDefaultAction(add ? "add_highlight" : "highlight"); });
+  QAction* addIsolates = menu.addAction(tr("Isolating adds &to what is isolated"));
+  addIsolates->setCheckable(true);
+  addIsolates->setChecked(keeps_ && oxecad_ui::IsAddToIsolatesDefaultAction());
+  connect(addIsolates, &QAction::triggered, this,
+          [](bool add) { oxecad_ui::SetIsolateDefaultAction(add ? "add_isolate" : "isolate"); });
+  menu.addSeparator();
+  actions_->netColor = Add(menu, tr("&Net colour…"), Qt::CTRL | Qt::Key_L, [this] { ChangeNetColor(); });
+  actions_->noNetColor = Add(menu, tr("Net without a colour of its &own"), {}, [this] { RemoveNetColor(); });
+  actions_->renameGroup = Add(menu, tr("&Rename layer group…"), Qt::Key_F2, [this] { RenameLayerGroup(); });
+}
+
+void MainWindow::MakeCompareMenu() {
+  QMenu& menu = *menuBar()->addMenu(tr("&Comparison"));
+  actions_->next = Add(menu, tr("&Next difference"), Qt::Key_F3, [this] { compare_->GoToNext(); });
+  actions_->previous =
+      Add(menu, tr("&Previous difference"), Qt::SHIFT | Qt::Key_F3, [this] { compare_->GoToPrevious(); });
+  GiveSign(*actions_->previous, ToolSign::Previous, *actions_->bar);
+  GiveSign(*actions_->next, ToolSign::Next, *actions_->bar);
+}
+
+void MainWindow::MakeHelpMenu() {
+  QMenu& menu = *menuBar()->addMenu(tr("&Help"));
+  Add(menu, tr("&Keys and mouse"), QKeySequence::HelpContents, [this] { ShowShortcuts(); });
+  Add(menu, tr("&About oxviewer"), {}, [this] { ShowAbout(); });
+}
+
+void MainWindow::MakeContextMenus() {
+  const std::pair<QWidget*, QList<QAction*>> menus[] = {
+      {&nets_->View(),
+       {actions_->highlight, actions_->isolate, actions_->fitSelection, actions_->netColor, actions_->noNetColor}},
+      {&components_->View(), {actions_->highlight, actions_->isolate, actions_->fitSelection}},
+      {&parts_->View(), {actions_->highlight, actions_->isolate, actions_->fitSelection}},
+      {&layers_->View(), {actions_->renameGroup}},
+      {&compare_->Panel().View(), {actions_->next, actions_->previous}},
+      {view_, {actions_->highlight, actions_->isolate, actions_->clear, actions_->fit}}};
+  for (const auto& [widget, actions] : menus) {
+    widget->setContextMenuPolicy(Qt::ActionsContextMenu);
+    widget->addActions(actions);
+  }
+}
+
+void MainWindow::AskForBoard() {
+  const QString file =
+      QFileDialog::getOpenFileName(this, tr("Open board"), {}, tr("Boards (*.kicad_pcb);;All files (*)"));
+  if (!file.isEmpty()) OpenBoards(file.toStdString(), std::nullopt);
+}
+
+void MainWindow::AskForComparison() {
+  if (!session_) return;
+  const QString file =
+      QFileDialog::getOpenFileName(this, tr("Compare with board"), {}, tr("Boards (*.kicad_pcb);;All files (*)"));
+  if (!file.isEmpty()) OpenBoards(session_->A().name, file.toStdString());
+}
+
+void MainWindow::SavePicture() {
+  const QString file = QFileDialog::getSaveFileName(this, tr("Save picture"), {}, tr("Pictures (*.png)"));
+  if (file.isEmpty()) return;
+  view_->RenderNow();
+  if (!view_->grab().save(file, "PNG")) {
+    QMessageBox::warning(this, tr("The picture cannot be saved"), tr("%1 cannot be written.").arg(file));
+  }
+}
+
+void MainWindow::ShowShortcuts() {
+  QMessageBox::information(this, tr("Keys and mouse"),
+                           tr("<table cellpadding=3>"
+                              "<tr><td>Wheel</td><td>zoom at the pointer (Shift: sideways, Ctrl: up and down)</td></tr>"
+                              "<tr><td>Drag</td><td>move the board</td></tr>"
+                              "<tr><td>Click, Ctrl+click</td><td>select what lies there, add to the selection</td></tr>"
+                              "<tr><td>Double click, F, Home</td><td>the whole board</td></tr>"
+                              "<tr><td>+, −, arrows</td><td>zoom, move</td></tr>"
+                              "<tr><td>Ctrl+E</td><td>show the selection</td></tr>"
+                              "<tr><td>H, I, Esc</td><td>highlight, isolate, clear</td></tr>"
+                              "<tr><td>F3, Shift+F3</td><td>next and previous difference</td></tr>"
+                              "<tr><td>Double click or Enter on a layer</td><td>choose its colour</td></tr>"
+                              "<tr><td>Space on a layer</td><td>show or hide it</td></tr>"
+                              "</table>"));
+}
+
+void MainWindow::ShowAbout() {
+  QMessageBox::about(this, tr("About oxviewer"),
+                     tr("<b>%1</b><p>Shows and compares printed circuit boards.")
+                         .arg(QString::fromStdString(VersionText()).trimmed()));
+}
+
+}  // namespace oxviewer

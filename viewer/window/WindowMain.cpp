@@ -1,0 +1,95 @@
+#include <viewer/window/BoardView.h>
+#include <viewer/window/MainWindow.h>
+#include <viewer/window/Theme.h>
+#include <viewer/window/WindowMain.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QImage>
+#include <QPainter>
+#include <QSaveFile>
+
+#include <unistd.h>
+#include <cstdlib>
+
+#include <uiox_qt/QtFront.h>
+
+namespace oxviewer {
+namespace {
+
+// The window system's own warnings are of no use to the user; what it dies of is.
+void TakeMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
+  if (type != QtFatalMsg) return;
+  PrintError("no window can be opened: " + text.section('\n', 0, 0).trimmed().toStdString());
+  std::_Exit(kFailure);
+}
+
+bool HasDisplay() {
+  for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+    const char* value = std::getenv(variable);
+    if (value && *value) return true;
+  }
+  return false;
+}
+
+int Show(const LoadedBoards& boards, int& argc, char** argv) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("oxviewer"));
+  const Remembered remembered = ReadPreferences();
+  ApplyTheme(remembered.theme);
+  uiox_qt::QtFront front;
+  MainWindow window(front, remembered, true);
+  window.resize(boards.b ? 1500 : 1280, 860);
+  window.ShowBoards(boards);
+  window.show();
+  return QApplication::exec();
+}
+
+// Whatever the user's preferences are, the same boards give the same picture.
+QImage Picture(const LoadedBoards& boards, const PictureSize& size, int& argc, char** argv) {
+  QApplication application(argc, argv);
+  ApplyTheme(Theme::Light);
+  uiox_qt::QtFront front;
+  MainWindow window(front, {}, false);
+  window.resize(size.width, size.height);
+  window.ShowBoards(boards);
+  window.show();
+  QApplication::processEvents();
+  window.resize(size.width, size.height);
+  QApplication::processEvents();
+  window.View().FitAll();
+  window.View().RenderNow();
+  QImage picture(size.width, size.height, QImage::Format_RGB32);
+  picture.fill(window.palette().color(QPalette::Window));
+  window.render(&picture);
+  return picture;
+}
+
+int WritePicture(const QString& path, const QImage& picture) {
+  QSaveFile file(path);
+  file.setDirectWriteFallback(true);
+  if (file.open(QIODevice::WriteOnly) && picture.save(&file, "PNG") && file.commit()) return kSuccess;
+  PrintError(path.toStdString() + ": expected a file that can be written: " + file.errorString().toStdString());
+  return kFailure;
+}
+
+}  // namespace
+
+int RunWindow(const Options& options, const LoadedBoards& boards) {
+  qInstallMessageHandler(&TakeMessage);
+  int argc = 1;
+  char name[] = "oxviewer";
+  char* argv[] = {name, nullptr};
+  if (options.screenshot) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QImage picture = Picture(boards, options.size, argc, argv);
+    return WritePicture(QFile::decodeName(options.screenshot->c_str()), picture);
+  }
+  if (!HasDisplay()) {
+    PrintError("no window can be opened: there is no display (--screenshot and --dump need none)");
+    return kFailure;
+  }
+  return Show(boards, argc, argv);
+}
+
+}  // namespace oxviewer
