@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <ostream>
 #include <set>
 #include <string>
 #include <vector>
@@ -93,6 +94,8 @@ struct Row {
   std::wstring wide;
 };
 
+void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
+
 class WellFormed : public testing::TestWithParam<Row> {};
 class IllFormed : public testing::TestWithParam<Row> {};
 
@@ -168,8 +171,9 @@ TEST(StringConversion, FollowsTheStandardForAllBytesThatMatter) {
   std::vector<std::string> texts = {""};
   for (std::size_t size = 1; size <= 4; ++size) {
     std::vector<std::string> longer;
-    longer.reserve(texts.size() * bytes.size());
     for (const std::string& text : texts) {
+      // Four bytes say more than the shorter texts before only where the first one leads four.
+      if (size == 4 && static_cast<unsigned char>(text[0]) < 0xF0) continue;
       for (const char byte : bytes) longer.push_back(text + byte);
     }
     for (const std::string& text : longer)

@@ -8,6 +8,7 @@
 #include <cstring>
 #include <iterator>
 #include <limits>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -33,6 +34,8 @@ struct Row {
   int exponent;
   double result;
 };
+
+void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
 
 class Conversion : public testing::TestWithParam<Row> {};
 

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include <nlohmann/json.hpp>
+#include <ostream>
 
 #include "FaultyFiles.h"
 #include "PreferencesFixture.h"
@@ -15,6 +15,8 @@ struct Row {
   std::string content;
   std::string reason;  // the beginning of it
 };
+
+void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
 
 class PreferencesDamageTest : public PreferencesFixture {
  protected:

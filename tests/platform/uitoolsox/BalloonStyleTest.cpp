@@ -5,6 +5,7 @@
 #include <uicomps/toolkit/Toolkit.h>
 
 #include <cstdint>
+#include <ostream>
 #include <set>
 
 using uitoolsox::BalloonStyle;
@@ -23,6 +24,8 @@ struct Row {
   bool arrowAtTop;
   bool arrowAtLeft;
 };
+
+void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
 
 class BalloonStyleOf : public testing::TestWithParam<Row> {};
 
