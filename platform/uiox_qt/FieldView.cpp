@@ -20,7 +20,7 @@ FieldView::FieldView(uiox::Widget& component) : ComponentView(component) {
 FieldView::Caret FieldView::CaretNow() const { return {cursorPosition(), selectionStart(), selectionLength()}; }
 
 void FieldView::RememberCaret() {
-  if (entering_) return;
+  if (entering_ || composing_) return;
   text_ = text();
   caret_ = CaretNow();
 }
@@ -83,6 +83,16 @@ void FieldView::FollowOwn(uiox::WidgetChange change) {
     default:
       break;
   }
+}
+
+/// Here Qt tells of the caret first: what is there now is what was before the input.
+void FieldView::inputMethodEvent(QInputMethodEvent* event) {
+  const QPointer<FieldView> alive(this);
+  composing_ = true;
+  QLineEdit::inputMethodEvent(event);
+  if (!alive) return;
+  composing_ = false;
+  RememberCaret();
 }
 
 void FieldView::focusInEvent(QFocusEvent* event) {

@@ -19,6 +19,7 @@ class FieldView final : public QLineEdit, public ComponentView {
 
  protected:
   void FollowOwn(uiox::WidgetChange change) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 
@@ -36,6 +37,7 @@ class FieldView final : public QLineEdit, public ComponentView {
   void FollowMark();
 
   bool entering_ = false;
+  bool composing_ = false;
   bool mark_changed_ = false;
   QString text_;  // before the keystroke under way
   Caret caret_;
