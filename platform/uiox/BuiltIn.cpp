@@ -1,6 +1,6 @@
 #include <uiox/Backend.h>
 #include <uiox/Suite.h>
-#include <uiox/wire/Handlers.h>
+#include <uiox/detail/wire/Handlers.h>
 
 #include <new>
 

@@ -3,7 +3,7 @@
 #include <uicomps/toolkit/Toolkit.h>
 #include <uiox/Backend.h>
 #include <uiox/Export.h>
-#include <uiox/wire/Decode.h>
+#include <uiox/detail/wire/Decode.h>
 
 #include <cstdarg>
 

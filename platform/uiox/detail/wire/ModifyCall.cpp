@@ -1,4 +1,4 @@
-#include <uiox/wire/Handlers.h>
+#include <uiox/detail/wire/Handlers.h>
 
 namespace uiox::wire {
 

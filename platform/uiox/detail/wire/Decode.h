@@ -1,7 +1,7 @@
 /// \file
 /// From a variable list to a `Call`.
-#ifndef OXECAD_UIOX_WIRE_DECODE_H
-#define OXECAD_UIOX_WIRE_DECODE_H
+#ifndef OXECAD_UIOX_DETAIL_WIRE_DECODE_H
+#define OXECAD_UIOX_DETAIL_WIRE_DECODE_H
 
 #include <uiox/Call.h>
 #include <uiox/detail/CodeIndex.h>

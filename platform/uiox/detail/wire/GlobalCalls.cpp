@@ -1,5 +1,5 @@
 #include <uiox/Memory.h>
-#include <uiox/wire/Handlers.h>
+#include <uiox/detail/wire/Handlers.h>
 
 #include <cstring>
 

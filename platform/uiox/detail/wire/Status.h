@@ -1,7 +1,7 @@
 /// \file
 /// What the built-in toolkit answers. Callers look only at whether it is 0.
-#ifndef OXECAD_UIOX_WIRE_STATUS_H
-#define OXECAD_UIOX_WIRE_STATUS_H
+#ifndef OXECAD_UIOX_DETAIL_WIRE_STATUS_H
+#define OXECAD_UIOX_DETAIL_WIRE_STATUS_H
 
 namespace uiox::wire {
 

@@ -1,5 +1,5 @@
 #include <uiox/detail/NodeTable.h>
-#include <uiox/wire/Handlers.h>
+#include <uiox/detail/wire/Handlers.h>
 
 namespace uiox::wire {
 

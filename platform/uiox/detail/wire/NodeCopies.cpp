@@ -2,7 +2,7 @@
 
 #include <uiox/detail/NodeTable.h>
 #include <uiox/detail/WideCodec.h>
-#include <uiox/wire/Handlers.h>
+#include <uiox/detail/wire/Handlers.h>
 
 #include <cstdlib>
 #include <cstring>

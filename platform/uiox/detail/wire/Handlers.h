@@ -1,12 +1,12 @@
 /// \file
 /// The built-in toolkit's answers, by function and operation. Each checks everything first: a refused call has changed
 /// nothing and has written nothing.
-#ifndef OXECAD_UIOX_WIRE_HANDLERS_H
-#define OXECAD_UIOX_WIRE_HANDLERS_H
+#ifndef OXECAD_UIOX_DETAIL_WIRE_HANDLERS_H
+#define OXECAD_UIOX_DETAIL_WIRE_HANDLERS_H
 
 #include <uiox/Call.h>
 #include <uiox/Suite.h>
-#include <uiox/wire/Status.h>
+#include <uiox/detail/wire/Status.h>
 
 #include <cstring>
 #include <string>
