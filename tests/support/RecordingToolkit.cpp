@@ -130,10 +130,15 @@ int RecordingToolkit::Release(uiox::Call& call) {
 }
 
 int RecordingToolkit::GoWrong(const uiox::Call& call) {
+  // A block that is released is gone for the caller, who cannot do more than try.
   if (call.function == Function::Free) {
-    // The block is gone for the caller, who cannot do more than try.
     uiox::Call copy = call;
     Release(copy);
+    return failure_ == Failure::Refused || failure_ == Failure::Scribbled ? 1 : 0;
+  }
+  if (call.function == Function::ReleaseMemory) {
+    uiox::Call copy = call;
+    Answer(copy);
     return failure_ == Failure::Refused || failure_ == Failure::Scribbled ? 1 : 0;
   }
   switch (failure_) {
