@@ -69,9 +69,10 @@ void InputVerifier::Clear() {
 
 SmartPtr<InputTest> InputVerifier::GetInputTest(const char* name) const {
   const auto index = m_indices.find(Symbol(TextOrEmpty(name)));
-  if (index == m_indices.end()) return {};
+  const SmartPtr<InputTest> none(nullptr);
+  if (index == m_indices.end()) return none;
   const auto control = m_controls.find(index->second);
-  return control != m_controls.end() ? control->second.test : SmartPtr<InputTest>();
+  return control != m_controls.end() ? control->second.test : none;
 }
 
 InputVerifier::Control* InputVerifier::Find(Index index) {
