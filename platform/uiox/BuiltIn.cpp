@@ -1,4 +1,5 @@
 #include <uiox/Backend.h>
+#include <uiox/StrictMode.h>
 #include <uiox/Suite.h>
 #include <uiox/detail/wire/Handlers.h>
 
@@ -15,13 +16,16 @@ class SuiteBackend final : public Backend {
  public:
   int Handle(Call& call) override {
     try {
-      return call.fault == Fault::None ? Answered(call) : Refused(call);
+      StrictMode* strict = StrictMode::Current();
+      return strict ? strict->Handle(call, Judged) : Judged(call);
     } catch (const std::bad_alloc&) {
       return call.function == Function::ActivateDevice ? Suite::kNoResult : wire::kNoMemory;
     }
   }
 
  private:
+  static int Judged(Call& call) { return call.fault == Fault::None ? Answered(call) : Refused(call); }
+
   /// The failure that the function's result can say.
   static int Refused(const Call& call) { return call.function == Function::CreateDeviceExt ? 0 : wire::kBadList; }
 

@@ -1,6 +1,7 @@
 #include <uiox/UserEvents.h>
 #include <uiox/detail/SuiteState.h>
 
+#include <string>
 #include <utility>
 
 namespace uiox {
@@ -26,6 +27,9 @@ int Suite::RunModal(Device& device) {
   state_->runs.push_back(std::make_unique<State::Run>(State::Run{&device}));
   State::Run& run = *state_->runs.back();
   const RunEnd end{state_->runs, state_->runs.size() - 1};
+  // Afterwards the user is where he was: the next message is shown at a component of that device, not of this one.
+  const std::string device_before = CurrentDevice();
+  const std::string component_before = CurrentComponent();
   device.Show();
   Tell(&SuiteObserver::ModalRunStarted, device);
   if (!run.over) {
@@ -39,6 +43,7 @@ int Suite::RunModal(Device& device) {
     run.over = true;
     Tell(&SuiteObserver::ModalRunEnded, device, run.result);
   }
+  if (Find(device_before, component_before)) SetCurrent(device_before, component_before);
   return run.result;
 }
 

@@ -35,6 +35,7 @@ void SuiteObserver::ModalRunEnded(Device&, int) {}
 void SuiteObserver::ControlCreated(Widget&) {}
 void SuiteObserver::AboutToDestroyControl(Widget&) {}
 void SuiteObserver::WidgetChanged(Widget&, WidgetChange) {}
+void SuiteObserver::UserActed() {}
 void SuiteObserver::ImageDefined(const char*) {}
 void SuiteObserver::NodeTypeDefined(TypeId) {}
 

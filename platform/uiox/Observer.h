@@ -98,6 +98,8 @@ class OXECAD_UIOX_API SuiteObserver {
   virtual void ControlCreated(Widget& control);
   virtual void AboutToDestroyControl(Widget& control);
   virtual void WidgetChanged(Widget& widget, WidgetChange change);
+  /// The user is about to do something that callbacks may follow.
+  virtual void UserActed();
   virtual void ImageDefined(const char* name);
   virtual void NodeTypeDefined(TypeId type);
 };

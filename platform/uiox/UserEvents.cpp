@@ -19,7 +19,11 @@ bool CanUse(const Widget& widget) {
 bool CanUse(const TreeWidget& tree, NodeId node) { return tree.Store().Has(node) && CanUse(tree); }
 
 /// The user works in this component from now on.
-void WorkIn(const Widget& widget) { widget.Owner().Host().SetCurrent(widget.Owner().Name(), widget.Name()); }
+void WorkIn(const Widget& widget) {
+  Suite& suite = widget.Owner().Host();
+  suite.SetCurrent(widget.Owner().Name(), widget.Name());
+  suite.Tell(&SuiteObserver::UserActed);
+}
 
 std::size_t Call(const Widget& widget, Reason reason) { return widget.Actions().Call(static_cast<int>(reason)); }
 
@@ -163,6 +167,7 @@ bool FocusIn(Widget& widget) {
 bool FocusOut(Widget& widget) {
   Device& device = widget.Owner();
   if (device.UserFocus() != widget.Name()) return false;
+  device.Host().Tell(&SuiteObserver::UserActed);
   device.SetUserFocus({});
   if (device.Focus() == widget.Name()) device.SetFocus({});
   Call(widget, Reason::FocusOut);
@@ -171,7 +176,10 @@ bool FocusOut(Widget& widget) {
 
 // --- Devices ---------------------------------------------------------------------------------------------------------
 
-bool Close(Device& device) { return Call(device, Reason::Close) > 0; }
+bool Close(Device& device) {
+  device.Host().Tell(&SuiteObserver::UserActed);
+  return Call(device, Reason::Close) > 0;
+}
 
 bool PressDefault(Device& device) {
   Widget* button = device.DefaultButton().empty() ? nullptr : device.Find(device.DefaultButton());

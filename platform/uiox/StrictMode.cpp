@@ -1,0 +1,127 @@
+#include <uiox/Describe.h>
+#include <uiox/StrictMode.h>
+#include <uiox/Suite.h>
+#include <uiox/detail/LentGuard.h>
+#include <uiox/detail/StrictLedger.h>
+
+#include <algorithm>
+
+namespace uiox {
+
+using oxecad_ui::toolkit::GlobalOperation;
+using oxecad_ui::toolkit::Operation;
+
+namespace {
+
+StrictMode* g_current = nullptr;
+
+/// A status that means failure whatever the function.
+int Refusal(Function function) { return function == Function::CreateDeviceExt ? 0 : 1; }
+
+bool IsOperation(const Call& call, Operation operation) {
+  return call.function == Function::DoOperation && call.code == static_cast<int>(operation);
+}
+
+bool LoadsImage(const Call& call) {
+  return call.function == Function::GlobalDoOperation && call.code == static_cast<int>(GlobalOperation::LoadImage);
+}
+
+std::string FaultText(const Call& call) {
+  switch (call.fault) {
+    case Fault::UnknownOperation:
+      return "unknown operation " + std::to_string(call.fault_code);
+    case Fault::UnknownOption:
+      return "unknown option " + std::to_string(call.fault_code);
+    case Fault::MissingEnd:
+      return "the list has no end";
+    case Fault::None:
+      break;
+  }
+  return "";
+}
+
+void AppendCallbacks(const Widget& widget, std::vector<std::string>& lines) {
+  for (const Action& action : widget.Actions().All()) {
+    const char* reason = CodeName(CodeGroup::Reason, action.reason);
+    lines.push_back(std::string("callback ") + widget.Owner().Name() + ':' + widget.Name() + ' ' +
+                    (reason ? reason : "?"));
+  }
+}
+
+}  // namespace
+
+struct StrictMode::Books : SuiteObserver {
+  Report report;
+  detail::StrictLedger ledger;
+  detail::LentGuard lent;
+  std::vector<std::string> expected;
+  std::size_t faults = 0;
+
+  void Fault(const std::string& what) {
+    ++faults;
+    if (report) report(what);
+  }
+  void UserActed() override { lent.EndAll(); }
+};
+
+StrictMode::StrictMode(Report report) : books_(std::make_unique<Books>()) {
+  books_->report = std::move(report);
+  Suite::Get().AddObserver(books_.get());
+  g_current = this;
+}
+
+StrictMode::~StrictMode() {
+  std::vector<std::string> left = Leftovers();
+  for (const std::string& expected : books_->expected) {
+    if (const auto found = std::find(left.begin(), left.end(), expected); found != left.end()) left.erase(found);
+  }
+  for (const std::string& leftover : left) books_->Fault("left: " + leftover);
+  Suite::Get().RemoveObserver(books_.get());
+  g_current = nullptr;
+}
+
+StrictMode* StrictMode::Current() { return g_current; }
+
+void StrictMode::Expect(std::string leftover) { books_->expected.push_back(std::move(leftover)); }
+
+std::size_t StrictMode::Faults() const { return books_->faults; }
+
+std::vector<std::string> StrictMode::Leftovers() const {
+  std::vector<std::string> lines;
+  books_->ledger.AppendLeft(lines);
+  for (const Device* device : Suite::Get().Devices()) {
+    AppendCallbacks(*device, lines);
+    for (const Widget* widget : device->Components()) {
+      AppendCallbacks(*widget, lines);
+      if (!widget->AsTree()) continue;
+      for (const Widget* control : widget->AsTree()->Controls()) AppendCallbacks(*control, lines);
+    }
+    if (device->OnScreen()) lines.push_back(std::string("device ") + device->Name());
+  }
+  std::sort(lines.begin(), lines.end());
+  return lines;
+}
+
+int StrictMode::Handle(Call& call, int (*answer)(Call&)) {
+  Books& books = *books_;
+  if (call.fault != Fault::None) {
+    books.Fault(FaultText(call) + ": " + Describe(call));
+    return answer(call);
+  }
+  if (!detail::LentGuard::OnlyReads(call)) books.lent.Before(call);
+  std::string wrong;
+  if (call.function == Function::Free) wrong = books.ledger.Return(call);
+  if (call.function == Function::ReleaseMemory) wrong = books.ledger.ReturnPixels(call);
+  if (!wrong.empty()) {
+    books.Fault(wrong + ": " + Describe(call));
+    return Refusal(call.function);
+  }
+  const int result = answer(call);
+  if (result != 0 || g_current != this) return result;
+  if (IsOperation(call, Operation::GetNode)) books.ledger.EnterCopies(call);
+  if (LoadsImage(call)) books.ledger.EnterPixels(call);
+  if (detail::LentGuard::OnlyReads(call)) books.lent.Replace(call);
+  return result;
+}
+
+}  // namespace uiox
