@@ -1,5 +1,6 @@
 #include <viewer/trees/ViewSettings.h>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <optional>
@@ -155,7 +156,9 @@ void ViewSettings::OnLeft() {
     if (text == oxecadutils::Utf8ToWideStr(TextOfNumber(shown))) continue;
     if (text.empty()) values_.*field.value = 0;
     if (const auto value = NumberOf(text)) {
-      values_.*field.value = LengthUnit::Convert(field.unit, LengthUnit::Millimetre, *value, 1);
+      // In another unit the largest value has been rounded too.
+      const double length = LengthUnit::Convert(field.unit, LengthUnit::Millimetre, *value, 1);
+      values_.*field.value = std::clamp(length, 0.0, field.largest);
     }
   }
   if (const auto percent = NumberOf(TextOf(kDim))) values_.dimStrength = *percent / 100;
