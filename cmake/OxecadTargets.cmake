@@ -39,6 +39,8 @@ function(oxecad_test name)
   cmake_parse_arguments(arg "" "PREFIX" "SOURCES;LIBRARIES" ${ARGN})
   add_executable(${name} ${arg_SOURCES})
   oxecad_own(${name})
+  # The tests' own code is compiled much more often than it is run.
+  target_compile_options(${name} PRIVATE -O0)
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
   target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} GTest::gtest_main)
   if(NOT arg_PREFIX)
