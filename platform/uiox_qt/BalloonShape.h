@@ -3,6 +3,8 @@
 #ifndef OXECAD_UIOX_QT_BALLOONSHAPE_H
 #define OXECAD_UIOX_QT_BALLOONSHAPE_H
 
+#include <uiox_qt/Export.h>
+
 #include <QMargins>
 #include <QPainterPath>
 #include <QSize>
@@ -19,13 +21,13 @@ struct BalloonArrow {
 };
 
 /// What a style handle (attribute 519) says; false for 0, which is no style.
-bool FindBalloonArrow(std::uintptr_t style, BalloonArrow& arrow);
+OXECAD_UIOX_QT_API bool FindBalloonArrow(std::uintptr_t style, BalloonArrow& arrow);
 
 /// What of a window is not for its contents.
-QMargins BalloonMargins(const BalloonArrow& arrow);
+OXECAD_UIOX_QT_API QMargins BalloonMargins(const BalloonArrow& arrow);
 
 /// The outline within a window of this size, half a pixel inside its edges, where a line is crisp.
-QPainterPath BalloonPath(QSize size, const BalloonArrow& arrow);
+OXECAD_UIOX_QT_API QPainterPath BalloonPath(QSize size, const BalloonArrow& arrow);
 
 }  // namespace uiox_qt
 

@@ -50,7 +50,6 @@ DeviceView::DeviceView(uiox::Device& device) : device_(device) {
   Fill(*panel);
   panel->setObjectName(QString::fromUtf8(device.Name()));
   FollowDevice(uiox::WidgetChange::DefaultButton);
-  FollowDevice(uiox::WidgetChange::Focus);
 }
 
 DeviceView::~DeviceView() {
@@ -166,6 +165,7 @@ void DeviceView::Show(QWidget* over) {
   }
   if (!window_) window_ = new DeviceWindow(device_, *panel_);
   window_->ShowSoon(over);
+  FollowDevice(uiox::WidgetChange::Focus);
 }
 
 void DeviceView::Hide() {

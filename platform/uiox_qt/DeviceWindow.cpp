@@ -13,6 +13,19 @@
 #include <algorithm>
 
 namespace uiox_qt {
+namespace {
+
+/// What changed while a window was hidden has not reached the layouts around it.
+void ActivateLayouts(QWidget& widget) {
+  for (QObject* child : widget.children()) {
+    if (child->isWidgetType()) ActivateLayouts(*static_cast<QWidget*>(child));
+  }
+  if (!widget.layout()) return;
+  widget.layout()->invalidate();
+  widget.layout()->activate();
+}
+
+}  // namespace
 
 DeviceWindow::DeviceWindow(uiox::Device& device, QWidget& panel)
     : device_(&device), panel_(&panel), known_(device.Geometry()) {
@@ -93,8 +106,7 @@ void DeviceWindow::reject() {
 
 void DeviceWindow::FitSize() {
   ensurePolished();
-  if (panel_ && panel_->layout()) panel_->layout()->activate();
-  layout()->activate();
+  ActivateLayouts(*this);
   adjustSize();
   if (!balloon_ && device_) {
     // A resource says what it wants; a program that set a size gets it.

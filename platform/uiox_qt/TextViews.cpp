@@ -4,8 +4,10 @@
 #include <uiox_qt/Text.h>
 
 #include <QPainter>
+#include <QTextLayout>
 
 #include <algorithm>
+#include <cmath>
 
 namespace uiox_qt {
 namespace {
@@ -21,25 +23,61 @@ constexpr int kSignGap = 4;
 }  // namespace
 
 TextView::TextView(uiox::Widget& component) : ComponentView(component) {
+  setTextFormat(Qt::PlainText);
   setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }
 
 void TextView::FollowOwn(uiox::WidgetChange change) {
   if (change != uiox::WidgetChange::Label && change != uiox::WidgetChange::TextMode) return;
-  const QString text = FromWide(Component()->Label());
-  const bool wrapped = Component()->TextMode() == kWrapped;
-  setWordWrap(wrapped);
-  if (!wrapped) {
-    setTextFormat(Qt::PlainText);
-    setMinimumWidth(0);
-    setText(text);
+  setWordWrap(Component()->TextMode() == kWrapped);
+  setText(FromWide(Component()->Label()));
+}
+
+/// Lays the text out in lines of this width and gives its height.
+int TextView::LayOut(QTextLayout& layout, int width) const {
+  QString lines = text();
+  lines.replace(u'\n', QChar(QChar::LineSeparator));
+  QTextOption option;
+  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  layout.setText(lines);
+  layout.setFont(font());
+  layout.setTextOption(option);
+  layout.beginLayout();
+  qreal height = 0;
+  for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+    line.setLineWidth(width);
+    line.setPosition({0, height});
+    height += line.height();
+  }
+  layout.endLayout();
+  return static_cast<int>(std::ceil(height));
+}
+
+int TextView::heightForWidth(int width) const {
+  if (!wordWrap()) return QLabel::heightForWidth(width);
+  QTextLayout layout;
+  return LayOut(layout, width);
+}
+
+QSize TextView::sizeHint() const {
+  if (!wordWrap()) return QLabel::sizeHint();
+  const int widest = kWrappedWidth * fontMetrics().averageCharWidth();
+  const int width = std::min(widest, fontMetrics().size(0, text()).width() + 1);
+  return {width, heightForWidth(width)};
+}
+
+QSize TextView::minimumSizeHint() const { return wordWrap() ? sizeHint() : QLabel::minimumSizeHint(); }
+
+void TextView::paintEvent(QPaintEvent* event) {
+  if (!wordWrap()) {
+    QLabel::paintEvent(event);
     return;
   }
-  // As rich text without a single tag, because plain text is wrapped between words only.
-  setTextFormat(Qt::RichText);
-  const int widest = kWrappedWidth * fontMetrics().averageCharWidth();
-  setMinimumWidth(std::min(widest, fontMetrics().size(0, text).width() + 1));
-  setText(text.toHtmlEscaped().replace(u'\n', QLatin1String("<br>")));
+  QTextLayout layout;
+  const int text_height = LayOut(layout, width());
+  QPainter painter(this);
+  painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, foregroundRole()));
+  layout.draw(&painter, QPointF(0, std::max(0, (height() - text_height) / 2)));
 }
 
 IconView::IconView(uiox::Widget& component) : ComponentView(component) {

@@ -7,6 +7,8 @@
 
 #include <QLabel>
 
+class QTextLayout;
+
 namespace uiox_qt {
 
 /// A Label or a Message: plain text. With text mode 2 it is wrapped, within words too where they are too long.
@@ -15,9 +17,16 @@ class TextView final : public QLabel, public ComponentView {
   explicit TextView(uiox::Widget& component);
 
   QWidget& Qt() override { return *this; }
+  int heightForWidth(int width) const override;
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
 
  protected:
   void FollowOwn(uiox::WidgetChange change) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  int LayOut(QTextLayout& layout, int width) const;
 };
 
 /// An Icon: its images beside each other.

@@ -44,7 +44,8 @@ TEST_F(ComponentsTest, ShowsNoMarkupInWrappedTextEither) {
   Find("label").SetTextMode(2);
   const QLabel& label = Part<QLabel>(*device_, "label");
   EXPECT_TRUE(label.wordWrap());
-  EXPECT_EQ(label.text(), QStringLiteral("Grid &amp; &lt;b&gt;width&lt;/b&gt;"));
+  EXPECT_EQ(label.text(), QStringLiteral("Grid & <b>width</b>"));
+  EXPECT_EQ(label.textFormat(), Qt::PlainText);
 }
 
 TEST_F(ComponentsTest, PressesAButtonByMouseAndKeyboard) {

@@ -70,8 +70,23 @@ class FrontFixture : public ::testing::Test {
   }
   Words Heard() { return std::exchange(heard_, {}); }
 
-  /// Done as soon as a modal run has its event loop going.
-  static void Soon(std::function<void()> action) { QTimer::singleShot(0, qApp, std::move(action)); }
+  static constexpr char kBalloon[] = "ui_balloon_message_dialog.res";
+  /// The library makes the device of balloons once in a process; where cases share one, the suite has forgotten it.
+  static void ObtainBalloonDevice() {
+    static bool made = false;
+    if (made) {
+      ASSERT_TRUE(Suite().CreateDevice(kBalloon, kBalloon));
+    }
+    made = true;
+  }
+
+  /// Done as soon as a modal run has its event loop going and its window is up.
+  static void Soon(std::function<void()> action) {
+    QTimer::singleShot(0, qApp, [action = std::move(action)] {
+      Settle();
+      action();
+    });
+  }
   static void Settle() {
     for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
   }
