@@ -73,11 +73,16 @@ class SuiteBackend final : public Backend {
   }
 };
 
+/// Never ended: components may still call the toolkit while the process ends.
+union Immortal {
+  constexpr Immortal() : backend() {}
+  ~Immortal() {}
+  SuiteBackend backend;
+};
+constinit Immortal g_built_in;
+
 }  // namespace
 
-Backend& BuiltIn() {
-  static SuiteBackend backend;
-  return backend;
-}
+Backend& BuiltIn() { return g_built_in.backend; }
 
 }  // namespace uiox

@@ -3,10 +3,10 @@
 
 namespace uiox {
 
-const CodeInfo* FindCode(CodeGroup group, int code) { return detail::FindRow(group, code); }
+const CodeInfo* FindCode(CodeGroup group, int code) { return detail::IndexOf(group).Find(code); }
 
 const char* CodeName(CodeGroup group, int code) {
-  const CodeInfo* row = detail::FindRow(group, code);
+  const CodeInfo* row = FindCode(group, code);
   return row ? row->name : nullptr;
 }
 
@@ -37,29 +37,8 @@ const char* GroupName(CodeGroup group) {
 }
 
 CodeTable AllCodes(CodeGroup group) {
-  switch (group) {
-    case CodeGroup::None:
-      break;
-    case CodeGroup::Operation:
-      return {detail::kOperations, std::size(detail::kOperations)};
-    case CodeGroup::GlobalOperation:
-      return {detail::kGlobalOperations, std::size(detail::kGlobalOperations)};
-    case CodeGroup::NodeOption:
-      return {detail::kNodeOptions, std::size(detail::kNodeOptions)};
-    case CodeGroup::NodeAttribute:
-      return {detail::kNodeAttributes, std::size(detail::kNodeAttributes)};
-    case CodeGroup::ComponentAttribute:
-      return {detail::kComponentAttributes, std::size(detail::kComponentAttributes)};
-    case CodeGroup::CellAttribute:
-      return {detail::kCellAttributes, std::size(detail::kCellAttributes)};
-    case CodeGroup::ControlAttribute:
-      return {detail::kControlAttributes, std::size(detail::kControlAttributes)};
-    case CodeGroup::Reason:
-      return {detail::kReasons, std::size(detail::kReasons)};
-    case CodeGroup::GlobalCode:
-      return {detail::kGlobalCodes, std::size(detail::kGlobalCodes)};
-  }
-  return {nullptr, 0};
+  const detail::GroupIndex& index = detail::IndexOf(group);
+  return {index.table, index.count};
 }
 
 }  // namespace uiox

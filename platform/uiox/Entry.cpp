@@ -57,7 +57,7 @@ using uiox::Function;
 
 OXECAD_UIOX_API int ui_do_operation(const char* device, const char* component, int operation, ...) {
   Call call = uiox::ComponentCall(Function::DoOperation, device, component, operation);
-  const uiox::CodeInfo* row = uiox::detail::FindRow(CodeGroup::Operation, operation);
+  const uiox::CodeInfo* row = uiox::detail::IndexOf(CodeGroup::Operation).Find(operation);
   if (!row) {
     call.fault = uiox::Fault::UnknownOperation;
     call.fault_code = operation;
@@ -66,7 +66,8 @@ OXECAD_UIOX_API int ui_do_operation(const char* device, const char* component, i
   call.option_group = row->options;
   va_list slots;
   va_start(slots, operation);
-  uiox::wire::Decoder(call, &slots).ReadShape(row->shape);
+  const auto number = static_cast<std::size_t>(row - uiox::detail::kOperations);
+  uiox::wire::Decoder(call, &slots).ReadShape(row->shape, uiox::detail::kOperationShapes[number]);
   va_end(slots);
   return uiox::Dispatch(call);
 }
@@ -116,7 +117,7 @@ OXECAD_UIOX_API int ui_free(int attribute, ...) {
   va_list slots;
   va_start(slots, attribute);
   uiox::wire::Decoder decoder(call, &slots);
-  const uiox::CodeInfo* row = uiox::detail::FindRow(CodeGroup::NodeAttribute, attribute);
+  const uiox::CodeInfo* row = uiox::detail::IndexOf(CodeGroup::NodeAttribute).Find(attribute);
   if (!row) {
     call.fault = uiox::Fault::UnknownOption;
     call.fault_code = attribute;
@@ -185,7 +186,7 @@ OXECAD_UIOX_API int ui_global_inquire(int code, ...) {
 OXECAD_UIOX_API int ui_global_do_operation(int operation, ...) {
   Call call(Function::GlobalDoOperation);
   call.code = operation;
-  const uiox::CodeInfo* row = uiox::detail::FindRow(CodeGroup::GlobalOperation, operation);
+  const uiox::CodeInfo* row = uiox::detail::IndexOf(CodeGroup::GlobalOperation).Find(operation);
   if (!row) {
     call.fault = uiox::Fault::UnknownOperation;
     call.fault_code = operation;
@@ -193,7 +194,8 @@ OXECAD_UIOX_API int ui_global_do_operation(int operation, ...) {
   }
   va_list slots;
   va_start(slots, operation);
-  uiox::wire::Decoder(call, &slots).ReadShape(row->shape);
+  const auto number = static_cast<std::size_t>(row - uiox::detail::kGlobalOperations);
+  uiox::wire::Decoder(call, &slots).ReadShape(row->shape, uiox::detail::kGlobalOperationShapes[number]);
   va_end(slots);
   return uiox::Dispatch(call);
 }

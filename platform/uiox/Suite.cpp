@@ -1,9 +1,9 @@
-#include <uiox/detail/Hash.h>
 #include <uiox/detail/LayoutRun.h>
 #include <uiox/detail/ResourceLoader.h>
 #include <uiox/detail/SuiteState.h>
 
 #include <algorithm>
+#include <cstring>
 #include <utility>
 
 namespace uiox {
@@ -29,8 +29,8 @@ Widget* Suite::Find(std::string_view device, std::string_view component) const {
 Widget* Suite::FindAgain(const char* device, const char* component) {
   if (!device || !component) return nullptr;
   State& state = *state_;
-  if (state.found && detail::SameName(component, state.found->Name()) &&
-      detail::SameName(device, state.found_device->Name())) {
+  if (state.found && std::strcmp(component, state.found->Name()) == 0 &&
+      std::strcmp(device, state.found_device->Name()) == 0) {
     return state.found;
   }
   Device* holder = FindDevice(device);

@@ -10,6 +10,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 
 namespace uiox::detail {
 
@@ -40,6 +41,21 @@ constexpr int HighestCode(const CodeInfo (&rows)[N]) {
   return std::max_element(rows, rows + N, [](const CodeInfo& a, const CodeInfo& b) { return a.code < b.code; })->code;
 }
 
+/// A table and the way from a code to its row.
+struct GroupIndex {
+  const CodeInfo* table;
+  std::size_t count;
+  const std::uint8_t* rows;  // by the code's distance from the first one: the row plus 1, or 0
+  int first;
+  std::size_t span;
+
+  constexpr const CodeInfo* Find(int code) const {
+    const auto place = static_cast<std::size_t>(static_cast<std::int64_t>(code) - first);
+    if (place >= span || rows[place] == 0) return nullptr;
+    return table + (rows[place] - 1);
+  }
+};
+
 /// One byte for each number between the lowest and the highest code: the row plus 1, or 0.
 template <const auto& Rows>
 class CodeIndex {
@@ -56,38 +72,40 @@ class CodeIndex {
   static constexpr std::array<std::uint8_t, kSpan> kRows = Build();
 
  public:
-  static constexpr const CodeInfo* Find(int code) {
-    const std::size_t place = static_cast<std::size_t>(static_cast<std::int64_t>(code) - kFirst);
-    if (place >= kSpan || kRows[place] == 0) return nullptr;
-    return &Rows[kRows[place] - 1];
-  }
+  static constexpr GroupIndex kIndex{Rows, std::size(Rows), kRows.data(), kFirst, kSpan};
 };
 
-inline const CodeInfo* FindRow(CodeGroup group, int code) {
-  switch (group) {
-    case CodeGroup::None:
-      return nullptr;
-    case CodeGroup::Operation:
-      return CodeIndex<kOperations>::Find(code);
-    case CodeGroup::GlobalOperation:
-      return CodeIndex<kGlobalOperations>::Find(code);
-    case CodeGroup::NodeOption:
-      return CodeIndex<kNodeOptions>::Find(code);
-    case CodeGroup::NodeAttribute:
-      return CodeIndex<kNodeAttributes>::Find(code);
-    case CodeGroup::ComponentAttribute:
-      return CodeIndex<kComponentAttributes>::Find(code);
-    case CodeGroup::CellAttribute:
-      return CodeIndex<kCellAttributes>::Find(code);
-    case CodeGroup::ControlAttribute:
-      return CodeIndex<kControlAttributes>::Find(code);
-    case CodeGroup::Reason:
-      return CodeIndex<kReasons>::Find(code);
-    case CodeGroup::GlobalCode:
-      return CodeIndex<kGlobalCodes>::Find(code);
+/// By `CodeGroup`.
+inline constexpr GroupIndex kGroups[] = {
+    {nullptr, 0, nullptr, 0, 0},        CodeIndex<kOperations>::kIndex,        CodeIndex<kGlobalOperations>::kIndex,
+    CodeIndex<kNodeOptions>::kIndex,    CodeIndex<kNodeAttributes>::kIndex,    CodeIndex<kComponentAttributes>::kIndex,
+    CodeIndex<kCellAttributes>::kIndex, CodeIndex<kControlAttributes>::kIndex, CodeIndex<kReasons>::kIndex,
+    CodeIndex<kGlobalCodes>::kIndex,
+};
+static_assert(std::size(kGroups) == static_cast<std::size_t>(CodeGroup::GlobalCode) + 1);
+
+inline const GroupIndex& IndexOf(CodeGroup group) { return kGroups[static_cast<std::size_t>(group)]; }
+
+/// How many slots a positional shape has, and what follows them.
+struct PositionalShape {
+  std::uint8_t count;
+  char ending;
+};
+
+template <std::size_t N>
+constexpr std::array<PositionalShape, N> PositionalShapes(const CodeInfo (&rows)[N]) {
+  std::array<PositionalShape, N> shapes{};
+  for (std::size_t i = 0; i < N; ++i) {
+    const char* letter = rows[i].shape;
+    while (*letter >= 'A') ++letter;
+    shapes[i] = {static_cast<std::uint8_t>(letter - rows[i].shape), *letter};
   }
-  return nullptr;
+  return shapes;
 }
+
+/// Row by row.
+inline constexpr auto kOperationShapes = PositionalShapes(kOperations);
+inline constexpr auto kGlobalOperationShapes = PositionalShapes(kGlobalOperations);
 
 }  // namespace uiox::detail
 

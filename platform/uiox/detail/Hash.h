@@ -40,14 +40,6 @@ inline std::uint32_t HashBytes(const void* data, std::size_t size) {
   return static_cast<std::uint32_t>(hash ^ hash >> 32);
 }
 
-/// Equality of short names, in place: most calls compare a few characters only.
-inline bool SameName(const char* a, const char* b) {
-  for (; *a == *b; ++a, ++b) {
-    if (*a == 0) return true;
-  }
-  return false;
-}
-
 inline std::uint32_t Hash(std::string_view text) { return HashBytes(text.data(), text.size()); }
 inline std::uint32_t Hash(std::wstring_view text) { return HashBytes(text.data(), text.size() * sizeof(wchar_t)); }
 

@@ -39,10 +39,11 @@ class NodeTable {
   }
   /// The same for a name that ends with a 0. Calls that follow each other mostly name the same node.
   NodeId FindAgain(const char* name) const {
-    if (nodes_.Has(last_found_) && detail::SameName(Name(last_found_), name)) return last_found_;
     const std::uint32_t hash = detail::Hash(std::string_view(name));
+    if (hash == last_hash_ && nodes_.Has(last_found_) && std::strcmp(Name(last_found_), name) == 0) return last_found_;
     const NodeId found = index_.Find(hash, [&](NodeId node) { return std::strcmp(Name(node), name) == 0; });
     if (found == kTop) return kNoNode;
+    last_hash_ = hash;
     return last_found_ = found;
   }
 
@@ -132,6 +133,7 @@ class NodeTable {
   std::uint64_t lent_selection_version_ = 0;
   NodeId marks_[kMarks] = {kNoNode, kNoNode, kNoNode, kNoNode};
   mutable NodeId last_found_ = kTop;
+  mutable std::uint32_t last_hash_ = 0;
 };
 
 }  // namespace uiox

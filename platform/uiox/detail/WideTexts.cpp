@@ -2,15 +2,21 @@
 #include <uiox/detail/WideTexts.h>
 
 #include <algorithm>
+#include <iterator>
 
 namespace uiox::detail {
 
 WideTexts::Id WideTexts::Use(std::wstring_view text) {
   if (text.empty()) return 0;
+  for (const Id id : recent_) {
+    if (id == 0 || View(id) != text) continue;
+    ++entries_[id - 1].users;
+    return id;
+  }
   const std::uint32_t hash = Hash(text);
   if (const Id known = index_.Find(hash, [&](Id id) { return View(id) == text; })) {
     ++entries_[known - 1].users;
-    return known;
+    return Recent(known);
   }
   index_.Reserve();
   if (free_.empty()) {
@@ -28,11 +34,18 @@ WideTexts::Id WideTexts::Use(std::wstring_view text) {
   entry.users = 1;
   free_.pop_back();
   index_.Insert(hash, id);
+  return Recent(id);
+}
+
+WideTexts::Id WideTexts::Recent(Id id) {
+  recent_[next_recent_] = id;
+  next_recent_ = (next_recent_ + 1) % kRecent;
   return id;
 }
 
 void WideTexts::Release(Id id) noexcept {
   if (id == 0 || --entries_[id - 1].users > 0) return;
+  std::replace(std::begin(recent_), std::end(recent_), id, Id{0});
   index_.Erase(entries_[id - 1].hash, id);
   entries_[id - 1].text.reset();
   free_.push_back(id);
@@ -42,6 +55,7 @@ void WideTexts::Clear() noexcept {
   std::vector<Entry>().swap(entries_);
   std::vector<Id>().swap(free_);
   index_.Clear();
+  std::fill(std::begin(recent_), std::end(recent_), Id{0});
 }
 
 std::size_t WideTexts::MemoryUse() const {

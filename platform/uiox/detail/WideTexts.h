@@ -37,9 +37,14 @@ class WideTexts {
     std::uint32_t users = 0;
   };
 
+  static constexpr std::size_t kRecent = 4;
+  Id Recent(Id id);
+
   std::vector<Entry> entries_;
   std::vector<Id> free_;
   IdIndex index_;
+  Id recent_[kRecent] = {0, 0, 0, 0};  // found or made last: one text mostly goes into many cells
+  std::size_t next_recent_ = 0;
 };
 
 }  // namespace uiox::detail

@@ -18,13 +18,13 @@ class Decoder {
   Decoder(Call& call, va_list* slots) : call_(call), slots_(slots) {}
 
   /// Positional slots by a shape, then what its ending says.
-  void ReadShape(const char* shape) {
-    const char* letter = shape;
-    call_.positional_shape = shape;
-    for (; IsValue(*letter); ++letter) call_.positional[call_.positional_count++] = Next();
-    if (*letter == '<') return ReadOptions(false);
-    if (*letter == '>') return ReadOptions(true);
-    if (*letter == '0' && NextCode() != 0) call_.fault = Fault::MissingEnd;
+  void ReadShape(const char* letters, detail::PositionalShape shape) {
+    call_.positional_shape = letters;
+    call_.positional_count = shape.count;
+    for (std::size_t i = 0; i < shape.count; ++i) call_.positional[i] = Next();
+    if (shape.ending == '<') return ReadOptions(false);
+    if (shape.ending == '>') return ReadOptions(true);
+    if (shape.ending == '0' && NextCode() != 0) call_.fault = Fault::MissingEnd;
   }
 
   /// Pairs of the option group up to the closing 0.
@@ -32,8 +32,9 @@ class Decoder {
 
   /// The same when the first code is known already.
   void ReadOptionsFrom(int code, bool out) {
+    const detail::GroupIndex& index = detail::IndexOf(call_.option_group);
     for (; code != 0; code = NextCode()) {
-      const CodeInfo* row = detail::FindRow(call_.option_group, code);
+      const CodeInfo* row = index.Find(code);
       if (!row) return Stop(Fault::UnknownOption, code);
       if (call_.option_count == Call::kMaxOptions) return Stop(Fault::MissingEnd, 0);
       Option& option = call_.options[call_.option_count++];
@@ -48,7 +49,6 @@ class Decoder {
   int NextCode() { return va_arg(*slots_, int); }
 
  private:
-  static bool IsValue(char letter) { return letter >= 'A'; }
   void Stop(Fault fault, int code) {
     call_.fault = fault;
     call_.fault_code = code;

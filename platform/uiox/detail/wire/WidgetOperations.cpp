@@ -79,10 +79,8 @@ int Operate(Widget& widget, const Call& call) {
       return UpdateLayout(widget);
     case Operation::SelectText:
       return SelectText(widget, call);
-    default: {
-      TreeWidget* tree = widget.AsTree();
-      return tree ? OperateOnTree(*tree, call) : kWrongComponent;
-    }
+    default:
+      return widget.AsTree() ? OperateOnTree(*widget.AsTree(), call) : kWrongComponent;
   }
 }
 
