@@ -67,6 +67,23 @@ TEST_F(InputIndexes, WithoutARecordKeepTheirName) {
   EXPECT_TRUE(verifier.m_indices.empty());
 }
 
+TEST_F(InputIndexes, AreForgottenBeforeTheCallbacksAreRemovedOneByOneAndAfterAllAreCleared) {
+  int removals = 0;
+  std::size_t known = 0;
+  toolkit.When(test_support::Calling(uiox::Function::RemoveAction)).Run([&](const uiox::Call&) {
+    ++removals;
+    EXPECT_EQ(verifier.m_indices.size(), known);
+    EXPECT_EQ(verifier.m_controls.size(), known);
+  });
+  for (const char* const name : {"width", "height", "depth"}) Add(name);
+  known = 2;
+  verifier.RemoveControl("width");
+  verifier.Clear();
+  EXPECT_EQ(removals, 9);
+  EXPECT_TRUE(verifier.m_indices.empty());
+  EXPECT_TRUE(verifier.m_controls.empty());
+}
+
 TEST_F(InputIndexes, AnswerTheCallbacksOfTheirControl) {
   ASSERT_TRUE(Add("width"));
   verifier.OnFocusIn(1);

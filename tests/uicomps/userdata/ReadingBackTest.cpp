@@ -93,7 +93,7 @@ TEST_F(UserDataRecords, WithoutANameAreNotRead) {
 
 TEST_F(UserDataRecords, OfAMissingNodeAreEmpty) {
   toolkit.FailAll(Failure::Scribbled);
-  UserDataTree::DataNodeInfo info;
+  UserDataTree::DataNodeInfo info = Record("before", L"Before", "type", Word(1), Tree::Checked, true);
   EXPECT_TRUE(tree.GetNodeInfo("n", info));
   EXPECT_EQ(info.name, "n");
   EXPECT_EQ(info.label, L"");

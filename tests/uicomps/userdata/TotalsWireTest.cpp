@@ -213,6 +213,7 @@ TEST_F(UserDataTotals, NullNamesAndAMissingArrayAreNoChildren) {
   GiveType("leaf 1", "leaf");
   toolkit.When(Doing(2203, "a").With(284)).Give(284, {nullptr, "leaf 1"});
   tree.UpdateParentTotals("leaf 1");
+  for (const std::string& line : toolkit.Lines()) EXPECT_EQ(line.find("GetNode null"), std::string::npos) << line;
   EXPECT_TRUE(toolkit.Took("...\ndo dev:tree 2201 SetNode \"a\" | 2=L\"A (1)\" 260=0x1 | 0\n..."));
   toolkit.When(Doing(2203, "a").With(284)).GiveNullArray(284, 3);
   tree.UpdateParentTotals("leaf 1");
