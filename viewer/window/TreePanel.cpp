@@ -24,10 +24,13 @@ TreePanel::TreePanel(uiox_qt::TreeView& view, const QString& placeholder, QWidge
   filter_->setClearButtonEnabled(true);
   top_->addWidget(filter_, 1);
   connect(filter_, &QLineEdit::textChanged, this, [this] { Refilter(); });
-  connect(&view_.Model(), &QAbstractItemModel::modelReset, this, [this] {
+  reset_ = connect(&view_.Model(), &QAbstractItemModel::modelReset, this, [this] {
     if (!filter_->text().isEmpty() && !action_) Refilter();
   });
 }
+
+// The view goes with the other child widgets, after this part of the panel, and its model is reset then.
+TreePanel::~TreePanel() { disconnect(reset_); }
 
 void TreePanel::SetFilterAction(std::function<void(const QString&)> action) { action_ = std::move(action); }
 

@@ -27,6 +27,7 @@ class TreePanel : public QWidget {
  public:
   /// The view stays the front's and is only placed here.
   TreePanel(uiox_qt::TreeView& view, const QString& placeholder, QWidget* parent = nullptr);
+  ~TreePanel() override;
 
   uiox_qt::TreeView& View() const { return view_; }
   QLineEdit& FilterLine() const { return *filter_; }
@@ -52,6 +53,7 @@ class TreePanel : public QWidget {
   QLineEdit* filter_;
   std::function<void(const QString&)> action_;
   std::function<bool(const std::string&, const QString&)> leafTest_;
+  QMetaObject::Connection reset_;
 };
 
 }  // namespace oxviewer

@@ -60,7 +60,9 @@ RC_GTEST_PROP(NodeName, IsTheOnlyOneOfItsText, ()) {
   for (const std::string& part : parts) name += part;
   const auto text = UnescapedName(name);
   RC_CLASSIFY(text.has_value());
-  RC_ASSERT(!text || EscapedName(*text) == name);
+  // The assertion takes its expression apart and evaluates both sides of an "or".
+  const bool isTheOnlyOne = !text || EscapedName(*text) == name;
+  RC_ASSERT(isTheOnlyOne);
 }
 
 }  // namespace
