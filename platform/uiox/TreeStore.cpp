@@ -58,23 +58,31 @@ NodeId TreeStore::Add(const NewNode& node, NodeId parent, NodeId before) {
   if (node.name.empty() || node.name.find('\0') != std::string_view::npos) return kNoNode;
   if (Find(node.name) != kNoNode) return kNoNode;
   if (before != kNoNode && (!Has(before) || Parent(before) != parent)) return kNoNode;
-  if (observers_.empty()) return table_->Add(node, parent, before);
-
+  const NodeId added = table_->Make(node);
+  if (observers_.empty()) {
+    table_->Place(added, parent, before);
+    return added;
+  }
   const std::uint32_t row = before == kNoNode ? ChildCount(parent) : RowOf(before);
   Tell(&TreeObserver::AboutToAdd, parent, row);
-  const NodeId added = table_->Add(node, parent, before);
+  table_->Place(added, parent, before);
   Tell(&TreeObserver::Added, added, parent, row);
   if (IsSelected(added)) Tell(&TreeObserver::SelectionChanged);
   return added;
 }
 
 void TreeStore::Remove(NodeId node) {
-  if (observers_.empty()) return table_->Remove(node);
   const NodeId parent = Parent(node);
-  const std::uint32_t row = RowOf(node);
+  const bool all = parent == kTop && ChildCount(kTop) == 1;
+  const std::vector<NodeId> subtree = all ? std::vector<NodeId>() : table_->Subtree(node);
+  const std::uint32_t row = observers_.empty() ? 0 : RowOf(node);
   const std::size_t selected = SelectionSize();
   Tell(&TreeObserver::AboutToRemove, node, parent, row);
-  table_->Remove(node);
+  if (all) {
+    table_->Clear();
+  } else {
+    table_->Remove(subtree);
+  }
   Tell(&TreeObserver::Removed, parent, row);
   if (SelectionSize() != selected) Tell(&TreeObserver::SelectionChanged);
 }
@@ -89,8 +97,8 @@ bool TreeStore::Move(NodeId node, NodeId parent, NodeId before) {
   if (before == node) return true;
   const NodeId from = Parent(node);
   if (before == kNoNode && from == parent && table_->Children().IsLast(node)) return true;
-  const bool watched = !observers_.empty();
-  if (!watched) {
+  table_->PrepareMove();
+  if (observers_.empty()) {
     table_->Move(node, parent, before);
     return true;
   }
@@ -193,8 +201,7 @@ std::size_t TreeStore::SelectionSize() const { return table_->Selection().Size()
 void TreeStore::Select(const std::vector<NodeId>& nodes) {
   const std::vector<NodeId> before = Selection();
   if (before == nodes) return;
-  for (const NodeId node : before) table_->SetInt(node, NodeTable::kThird, 0);
-  for (const NodeId node : nodes) table_->SetInt(node, NodeTable::kThird, 1);
+  table_->Select(nodes);
   if (observers_.empty()) return;
   for (const NodeId node : before) TellChanged(!IsSelected(node), node, kHighlightChanged);
   std::vector<NodeId> stayed = before;
@@ -243,6 +250,7 @@ void TreeStore::EmptyCell(ControlId control) {
 void TreeStore::SetCellControl(CellPlace cell, ControlId control) {
   const ControlId before = CellControl(cell);
   if (before == control) return;
+  if (control != kNoControl) table_->Cells().Prepare(cell, control);
   if (before != kNoControl) EmptyCell(before);
   if (control == kNoControl) return;
   EmptyCell(control);

@@ -17,19 +17,25 @@ BlockArena::Handle BlockArena::Allocate(std::size_t bytes) {
     free_[units] = *static_cast<Handle*>(block);
     return handle;
   }
-  if (used_ + units > kChunkUnits) AddChunk();
+  if (used_ + units > kChunkUnits) {
+    if (!spare_) AddSpare();
+    UseSpare();
+  }
   const Handle handle = static_cast<Handle>((chunks_.size() - 1) << kChunkBits) | used_;
   used_ += static_cast<std::uint32_t>(units);
   Unpoison(At(handle), units * 4);
   return handle;
 }
 
-void BlockArena::AddChunk() {
+void BlockArena::AddSpare() {
   if (chunks_.size() == kMostChunks) throw std::bad_alloc();
-  constexpr std::size_t kBytes = std::size_t{kChunkUnits} * 4;
-  auto chunk = std::unique_ptr<std::byte[]>(new std::byte[kBytes]);
-  Poison(chunk.get(), kBytes);
-  chunks_.push_back(std::move(chunk));
+  if (chunks_.size() == chunks_.capacity()) chunks_.reserve(2 * chunks_.size() + 4);
+  spare_.reset(new std::byte[kChunkBytes]);
+  Poison(spare_.get(), kChunkBytes);
+}
+
+void BlockArena::UseSpare() noexcept {
+  chunks_.push_back(std::move(spare_));
   used_ = chunks_.size() == 1 ? 1 : 0;  // no block has the handle 0
 }
 
@@ -68,7 +74,9 @@ void BlockArena::Free(Handle handle, std::size_t bytes) noexcept {
 
 void BlockArena::Clear() noexcept {
   for (void* block : big_) std::free(block);
-  for (const auto& chunk : chunks_) Unpoison(chunk.get(), std::size_t{kChunkUnits} * 4);
+  for (const auto& chunk : chunks_) Unpoison(chunk.get(), kChunkBytes);
+  if (spare_) Unpoison(spare_.get(), kChunkBytes);
+  spare_.reset();
   std::vector<std::unique_ptr<std::byte[]>>().swap(chunks_);
   std::vector<void*>().swap(big_);
   std::vector<std::uint32_t>().swap(free_big_);
@@ -78,7 +86,7 @@ void BlockArena::Clear() noexcept {
 }
 
 std::size_t BlockArena::MemoryUse() const {
-  return chunks_.size() * kChunkUnits * 4 + big_bytes_ + chunks_.capacity() * sizeof(chunks_[0]) +
+  return (chunks_.size() + (spare_ ? 1 : 0)) * kChunkBytes + big_bytes_ + chunks_.capacity() * sizeof(chunks_[0]) +
          big_.capacity() * sizeof(void*) + free_big_.capacity() * sizeof(std::uint32_t);
 }
 

@@ -28,6 +28,11 @@ class BlockArena {
 
   /// Throws std::bad_alloc, and then nothing has changed.
   Handle Allocate(std::size_t bytes);
+  /// Makes room for `kSureBlocks` small blocks, so that as many allocations of them cannot fail. Throws std::bad_alloc.
+  static constexpr std::size_t kSureBlocks = 64;
+  void EnsureRoom() {
+    if (!spare_ && used_ + kSureBlocks * (kLargestSmall / 4) > kChunkUnits) AddSpare();
+  }
   /// `bytes` as for the allocation; `kNone` is accepted.
   void Free(Handle handle, std::size_t bytes) noexcept;
   /// Whether two sizes need blocks of the same size.
@@ -50,15 +55,18 @@ class BlockArena {
  private:
   static constexpr unsigned kChunkBits = 14;
   static constexpr std::uint32_t kChunkUnits = 1u << kChunkBits;
+  static constexpr std::size_t kChunkBytes = std::size_t{kChunkUnits} * 4;
   static constexpr std::uint32_t kBig = 1u << 31;
   static constexpr std::size_t kMostChunks = kBig >> kChunkBits;
 
   static constexpr std::size_t Units(std::size_t bytes) { return bytes == 0 ? 1 : (bytes + 3) / 4; }
   Handle AllocateBig(std::size_t bytes);
-  void AddChunk();
+  void AddSpare();
+  void UseSpare() noexcept;
 
   std::vector<std::unique_ptr<std::byte[]>> chunks_;
-  std::uint32_t used_ = kChunkUnits;  // units of the last chunk
+  std::unique_ptr<std::byte[]> spare_;  // the next chunk; there is room for it in the list
+  std::uint32_t used_ = kChunkUnits;    // units of the last chunk
   std::array<Handle, kLargestSmall / 4 + 1> free_{};
   std::vector<void*> big_;
   std::vector<std::uint32_t> free_big_;

@@ -39,9 +39,13 @@ ControlId CellTable::Control(CellPlace place) const {
   return cell ? cell->control : kNoControl;
 }
 
-void CellTable::Put(CellPlace place, ControlId control) {
+void CellTable::Prepare(CellPlace place, ControlId control) {
   if (control >= places_.size()) places_.resize(std::max<std::size_t>(control + 1, places_.size() * 2));
-  Need(place).control = control;
+  Need(place);
+}
+
+void CellTable::Put(CellPlace place, ControlId control) noexcept {
+  blocks_.As<Cell>(nodes_[place.node].cells)[place.column].control = control;
   places_[control] = place;
 }
 

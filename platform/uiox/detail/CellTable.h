@@ -26,8 +26,10 @@ class CellTable {
   bool SetLabel(CellPlace place, std::wstring_view label);
   ControlId Control(CellPlace place) const;
   CellPlace PlaceOf(ControlId control) const { return control < places_.size() ? places_[control] : CellPlace{}; }
-  /// Into a cell where no other control is; the control is in no other cell. Throws std::bad_alloc.
-  void Put(CellPlace place, ControlId control);
+  /// Before a `Put`. Throws std::bad_alloc.
+  void Prepare(CellPlace place, ControlId control);
+  /// Into a cell where no other control is; the control is in no other cell.
+  void Put(CellPlace place, ControlId control) noexcept;
   void TakeOut(ControlId control) noexcept;
   /// Empties the cells of a node and frees their block.
   void Drop(NodeId node) noexcept;

@@ -54,7 +54,7 @@ bool ChildLists::IsLast(NodeId node) const {
   return last.ids[last.count - 1] == node;
 }
 
-void ChildLists::Insert(NodeId node, NodeId parent, NodeId before) {
+void ChildLists::Insert(NodeId node, NodeId parent, NodeId before) noexcept {
   Handle handle = before != kNoNode ? nodes_[before].leaf : LastLeaf(parent);
   if (handle == BlockArena::kNone) {
     handle = NewLeaf(2);
@@ -91,14 +91,6 @@ void ChildLists::Remove(NodeId node) noexcept {
   } else if (leaf.count <= kLeafMost / 4) {
     MergeLeaf(handle, parent);
   }
-}
-
-void ChildLists::Replace(NodeId leaving, NodeId node) noexcept {
-  Leaf& leaf = *LeafAt(nodes_[leaving].leaf);
-  leaf.ids[PlaceIn(leaf, leaving)] = node;
-  nodes_[node].leaf = nodes_[leaving].leaf;
-  nodes_[node].parent = nodes_[leaving].parent;
-  nodes_[leaving].leaf = BlockArena::kNone;
 }
 
 void ChildLists::Drop(NodeId parent) noexcept {

@@ -38,12 +38,10 @@ class ChildLists {
   }
 
   /// Puts a node, which is in no list, before a child of `parent` or (`kNoNode`) at the end, and sets its parent.
-  /// Throws std::bad_alloc, and then nothing has changed.
-  void Insert(NodeId node, NodeId parent, NodeId before);
+  /// Cannot fail after `BlockArena::EnsureRoom`.
+  void Insert(NodeId node, NodeId parent, NodeId before) noexcept;
   /// Takes a node out of its list. Its parent's name stays in the record.
   void Remove(NodeId node) noexcept;
-  /// Puts a node, which is in no list, in the place of one that leaves its list.
-  void Replace(NodeId leaving, NodeId node) noexcept;
   /// Frees the blocks of a whole list, without a look at the nodes in it.
   void Drop(NodeId parent) noexcept;
 

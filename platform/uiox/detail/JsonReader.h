@@ -3,31 +3,23 @@
 #ifndef OXECAD_UIOX_DETAIL_JSONREADER_H
 #define OXECAD_UIOX_DETAIL_JSONREADER_H
 
-#include <nlohmann/json.hpp>
+#include <uiox/detail/JsonValue.h>
 
 #include <functional>
 #include <initializer_list>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
 namespace uiox::detail {
-
-/// What is wrong with a description, and where ("components[2].class: …").
-class BadDescription : public std::runtime_error {
- public:
-  BadDescription(const std::string& where, const std::string& what)
-      : std::runtime_error(where.empty() ? what : where + ": " + what) {}
-};
 
 /// One object of a description. Getters give the fallback for a key that is not there and throw `BadDescription` for a
 /// value of another kind.
 class JsonReader {
  public:
   /// `where` is empty for the outermost object.
-  JsonReader(const nlohmann::json& object, std::string where);
+  JsonReader(const JsonValue& object, std::string where);
 
-  bool Has(const char* key) const { return object_.contains(key); }
+  bool Has(const char* key) const { return object_.Find(key) != nullptr; }
   std::string Text(const char* key, const char* fallback) const;
   std::wstring Wide(const char* key) const;
   bool Flag(const char* key, bool fallback) const;
@@ -36,7 +28,7 @@ class JsonReader {
   /// The object of that key; only where it is there.
   JsonReader Object(const char* key) const;
   /// Calls `visit(element, where)` for each element of the array of that key; not at all where it is not there.
-  void ForEach(const char* key, const std::function<void(const nlohmann::json&, const std::string&)>& visit) const;
+  void ForEach(const char* key, const std::function<void(const JsonValue&, const std::string&)>& visit) const;
   /// Calls `visit(key, text)` for each entry of the object of that key, all of which are texts.
   void ForEachText(const char* key, const std::function<void(const std::string&, const std::string&)>& visit) const;
   /// Throws where the object has another key than these.
@@ -46,7 +38,7 @@ class JsonReader {
  private:
   std::string Where(const char* key) const { return where_.empty() ? key : where_ + '.' + key; }
 
-  const nlohmann::json& object_;
+  const JsonValue& object_;
   std::string where_;
 };
 

@@ -28,7 +28,7 @@ class LentAnswers {
     if (const auto it = answers_.find(node); it != answers_.end()) it->second.texts[text].reset();
   }
   void Forget(NodeId node) noexcept { answers_.erase(node); }
-  void Clear() noexcept { answers_.clear(); }
+  void Clear() noexcept { std::unordered_map<NodeId, Answers>().swap(answers_); }
 
  private:
   std::unordered_map<NodeId, Answers> answers_;

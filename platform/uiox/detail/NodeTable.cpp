@@ -15,8 +15,9 @@ using detail::WideCodec;
 
 // --- Shape -----------------------------------------------------------------------------------------------------------
 
-NodeId NodeTable::Add(const NewNode& node, NodeId parent, NodeId before) {
+NodeId NodeTable::Make(const NewNode& node) {
   index_.Reserve();
+  blocks_.EnsureRoom();
   const NodeId id = nodes_.Take();
   try {
     NodeRecord& record = nodes_[id];
@@ -28,40 +29,39 @@ NodeId NodeTable::Add(const NewNode& node, NodeId parent, NodeId before) {
     SetInt(id, kSecond, node.expanded);
     SetInt(id, kThird, node.third_int);
     SetSecondText(id, node.second_text);
-    children_.Insert(id, parent, before);
+    blocks_.EnsureRoom();
   } catch (...) {
-    UndoAdd(id);
+    Free(id);
     throw;
   }
-  index_.Insert(detail::Hash(node.name), id);
-  ChildrenChanged(parent);
   return id;
 }
 
-void NodeTable::UndoAdd(NodeId node) noexcept {
-  if (nodes_[node].name != BlockArena::kNone) blocks_.Free(nodes_[node].name, std::strlen(Name(node)) + 1);
-  nodes_[node].name = BlockArena::kNone;
-  Free(node);
-}
-
-void NodeTable::Remove(NodeId node) {
-  const NodeId parent = nodes_[node].parent;
-  if (parent == kTop && children_.Count(kTop) == 1) return Clear();
-  std::vector<NodeId> doomed{node};
-  for (std::size_t i = 0; i < doomed.size(); ++i) {
-    children_.ForEach(doomed[i], [&](NodeId child) { doomed.push_back(child); });
-  }
-  children_.Remove(node);
+void NodeTable::Place(NodeId node, NodeId parent, NodeId before) noexcept {
+  children_.Insert(node, parent, before);
+  index_.Insert(detail::Hash(std::string_view(Name(node))), node);
   ChildrenChanged(parent);
-  for (const NodeId id : doomed) {
-    const std::string_view name = Name(id);
-    index_.Erase(detail::Hash(name), id);
-    blocks_.Free(nodes_[id].name, name.size() + 1);
-    Free(id);
+}
+
+std::vector<NodeId> NodeTable::Subtree(NodeId node) const {
+  std::vector<NodeId> nodes{node};
+  for (std::size_t i = 0; i < nodes.size(); ++i) {
+    children_.ForEach(nodes[i], [&](NodeId child) { nodes.push_back(child); });
+  }
+  return nodes;
+}
+
+void NodeTable::Remove(const std::vector<NodeId>& subtree) noexcept {
+  const NodeId parent = nodes_[subtree.front()].parent;
+  children_.Remove(subtree.front());
+  ChildrenChanged(parent);
+  for (const NodeId node : subtree) {
+    index_.Erase(detail::Hash(std::string_view(Name(node))), node);
+    Free(node);
   }
 }
 
-/// What a node has besides its name and its place.
+/// What a node has besides its place.
 void NodeTable::Free(NodeId node) noexcept {
   NodeRecord& record = nodes_[node];
   if ((record.bits & detail::kHasLent) != 0) lent_.Forget(node);
@@ -70,6 +70,7 @@ void NodeTable::Free(NodeId node) noexcept {
     rare_.erase(node);
   }
   if (record.selected != 0) selection_.Remove(node);
+  if (record.name != BlockArena::kNone) blocks_.Free(record.name, std::strlen(Name(node)) + 1);
   std::replace(std::begin(marks_), std::end(marks_), node, kNoNode);
   FreeText(record.label);
   cells_.Drop(node);
@@ -81,27 +82,17 @@ void NodeTable::Clear() noexcept {
   std::fill(std::begin(marks_), std::end(marks_), kNoNode);
   selection_.Clear();
   cells_.Clear();
-  rare_.clear();
+  std::unordered_map<NodeId, Rare>().swap(rare_);
   lent_.Clear();
   index_.Clear();
   nodes_.Clear();
   blocks_.Clear();
 }
 
-void NodeTable::Move(NodeId node, NodeId parent, NodeId before) {
-  // The place is taken first: there may be no memory for it. The node stands twice for a moment, so that it is told
-  // apart by a stand-in.
+void NodeTable::Move(NodeId node, NodeId parent, NodeId before) noexcept {
   const NodeId former = nodes_[node].parent;
-  const NodeId guest = nodes_.Take();
-  try {
-    children_.Insert(guest, parent, before);
-  } catch (...) {
-    nodes_.Give(guest);
-    throw;
-  }
   children_.Remove(node);
-  children_.Replace(guest, node);
-  nodes_.Give(guest);
+  children_.Insert(node, parent, before);
   ChildrenChanged(former);
   ChildrenChanged(parent);
 }
@@ -222,6 +213,15 @@ bool NodeTable::SetInt(NodeId node, Int which, int value) {
   }
   if (HasBit(node, detail::kHasRare)) NeedRare(node).ints[which] = value;
   return true;
+}
+
+void NodeTable::Select(const std::vector<NodeId>& nodes) {
+  selection_.Reserve(nodes.size());
+  std::vector<NodeId> before;
+  before.reserve(selection_.Size());
+  selection_.ForEach([&](NodeId node) { before.push_back(node); });
+  for (const NodeId node : before) SetInt(node, kThird, 0);
+  for (const NodeId node : nodes) SetInt(node, kThird, 1);
 }
 
 // --- Answers ---------------------------------------------------------------------------------------------------------

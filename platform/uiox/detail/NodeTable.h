@@ -18,6 +18,7 @@
 #include <memory>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 namespace uiox {
 
@@ -47,18 +48,24 @@ class NodeTable {
     return last_found_ = found;
   }
 
-  std::size_t Size() const { return nodes_.Size(); }
+  std::size_t Size() const { return index_.Size(); }
   bool Has(NodeId node) const { return nodes_.Has(node); }
   const char* Name(NodeId node) const { return blocks_.As<char>(nodes_[node].name); }
   NodeId Parent(NodeId node) const { return nodes_[node].parent; }
   const detail::ChildLists& Children() const { return children_; }
 
-  /// The name is not in use; `before` is a child of `parent` or `kNoNode`. Throws std::bad_alloc, and then nothing has
-  /// changed.
-  NodeId Add(const NewNode& node, NodeId parent, NodeId before);
-  void Remove(NodeId node);
+  /// Makes a node that stands nowhere yet; its name is not in use. Throws std::bad_alloc, and then nothing has changed.
+  NodeId Make(const NewNode& node);
+  /// Gives such a node its place; `before` is a child of `parent` or `kNoNode`.
+  void Place(NodeId node, NodeId parent, NodeId before) noexcept;
+  /// A node and all below it. Throws std::bad_alloc.
+  std::vector<NodeId> Subtree(NodeId node) const;
+  /// Removes a whole subtree.
+  void Remove(const std::vector<NodeId>& subtree) noexcept;
   void Clear() noexcept;
-  void Move(NodeId node, NodeId parent, NodeId before);
+  /// Before a `Move`. Throws std::bad_alloc.
+  void PrepareMove() { blocks_.EnsureRoom(); }
+  void Move(NodeId node, NodeId parent, NodeId before) noexcept;
 
   // --- Attributes ----------------------------------------------------------------------------------------------------
 
@@ -86,6 +93,8 @@ class NodeTable {
   detail::CellTable& Cells() { return cells_; }
   const detail::CellTable& Cells() const { return cells_; }
   const detail::SelectionList& Selection() const { return selection_; }
+  /// Makes these nodes the selection. Throws std::bad_alloc, and then nothing has changed.
+  void Select(const std::vector<NodeId>& nodes);
 
   // --- Answers that stay the toolkit's -------------------------------------------------------------------------------
 
@@ -119,7 +128,6 @@ class NodeTable {
   const wchar_t* Lend(NodeId node, detail::LentAnswers::Text which, const void* block);
   void ChildrenChanged(NodeId parent) noexcept;
   void Free(NodeId node) noexcept;
-  void UndoAdd(NodeId node) noexcept;
 
   detail::NodeRecords nodes_;
   detail::BlockArena blocks_;

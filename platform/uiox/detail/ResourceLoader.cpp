@@ -2,8 +2,6 @@
 #include <uiox/detail/ResourceLoader.h>
 #include <uiox/detail/WidgetDetails.h>
 
-#include <nlohmann/json.hpp>
-
 #include <algorithm>
 
 namespace uiox::detail {
@@ -14,28 +12,22 @@ constexpr int kDeepest = 32;
 constexpr int kFarthest = 1'000'000;
 constexpr int kMostColumns = 1000;
 constexpr int kMostItems = 100'000;
-
-/// Stops a description whose nesting alone would be a burden.
-bool IsShallow(int depth, nlohmann::json::parse_event_t, nlohmann::json&) {
-  if (depth > 4 * kDeepest) throw BadDescription("", "the description is nested too deep");
-  return true;
-}
+/// Of objects and arrays: two for each panel, and what stands in the innermost.
+constexpr std::size_t kDeepestValue = 4 * kDeepest;
 
 }  // namespace
 
 bool ResourceLoader::Load(std::string_view json, std::string& why) {
   try {
-    ReadDevice(nlohmann::json::parse(json.begin(), json.end(), IsShallow));
+    ReadDevice(ParseJson(json, kDeepestValue));
     return true;
   } catch (const BadDescription& bad) {
-    why = bad.what();
-  } catch (const nlohmann::json::exception& bad) {
     why = bad.what();
   }
   return false;
 }
 
-void ResourceLoader::ReadDevice(const nlohmann::json& description) {
+void ResourceLoader::ReadDevice(const JsonValue& description) {
   const JsonReader reader(description, "");
   reader.AllowOnly({"title", "arrangement", "x", "y", "width", "height", "background", "properties", "focus",
                     "defaultButton", "components"});
@@ -79,7 +71,7 @@ void ResourceLoader::ReadPlace(const JsonReader& reader, Widget& widget) {
 
 void ResourceLoader::ReadComponents(const JsonReader& reader, Widget& panel, int depth) {
   if (depth > kDeepest) reader.Fail("components", "the panels are nested too deep");
-  reader.ForEach("components", [&](const nlohmann::json& element, const std::string& where) {
+  reader.ForEach("components", [&](const JsonValue& element, const std::string& where) {
     ReadComponent(JsonReader(element, where), panel, depth);
   });
 }
@@ -138,9 +130,9 @@ void ResourceLoader::ReadByClass(const JsonReader& reader, Widget& widget, int d
       break;
     case WidgetClass::Icon:
       reader.AllowOnly({OXECAD_UIOX_COMMON_KEYS, "images"});
-      reader.ForEach("images", [&](const nlohmann::json& image, const std::string& where) {
-        if (!image.is_string()) throw BadDescription(where, "a text is expected");
-        widget.Need().images.push_back(image.get<std::string>());
+      reader.ForEach("images", [&](const JsonValue& image, const std::string& where) {
+        if (image.kind != JsonValue::kText) throw BadDescription(where, "a text is expected");
+        widget.Need().images.push_back(image.text);
       });
       break;
     case WidgetClass::Dialog:
@@ -156,10 +148,10 @@ void ResourceLoader::ReadByClass(const JsonReader& reader, Widget& widget, int d
 
 void ResourceLoader::ReadItems(const JsonReader& reader, Widget& menu) {
   std::vector<Item> items;
-  reader.ForEach("items", [&](const nlohmann::json& element, const std::string& where) {
+  reader.ForEach("items", [&](const JsonValue& element, const std::string& where) {
     Item item;
-    if (element.is_string()) {
-      item.name = element.get<std::string>();
+    if (element.kind == JsonValue::kText) {
+      item.name = element.text;
     } else {
       const JsonReader entry(element, where);
       entry.AllowOnly({"name", "image", "label"});
@@ -177,7 +169,7 @@ void ResourceLoader::ReadItems(const JsonReader& reader, Widget& menu) {
 TreeStyle ResourceLoader::ReadTreeStyle(const JsonReader& reader) {
   TreeStyle style;
   if (reader.Has("label")) style.label_column = ReadColumn(reader.Object("label"), false);
-  reader.ForEach("columns", [&](const nlohmann::json& element, const std::string& where) {
+  reader.ForEach("columns", [&](const JsonValue& element, const std::string& where) {
     const JsonReader entry(element, where);
     Column column = ReadColumn(entry, true);
     const bool used = std::any_of(style.columns.begin(), style.columns.end(),

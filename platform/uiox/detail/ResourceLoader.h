@@ -4,7 +4,6 @@
 #define OXECAD_UIOX_DETAIL_RESOURCELOADER_H
 
 #include <uiox/Device.h>
-#include <nlohmann/json_fwd.hpp>
 
 #include <string>
 #include <string_view>
@@ -13,6 +12,7 @@
 namespace uiox::detail {
 
 class JsonReader;
+struct JsonValue;
 
 /// Reads one description (Resources.h) into an empty device.
 class ResourceLoader {
@@ -23,7 +23,7 @@ class ResourceLoader {
   bool Load(std::string_view json, std::string& why);
 
  private:
-  void ReadDevice(const nlohmann::json& description);
+  void ReadDevice(const JsonValue& description);
   void ReadComponents(const JsonReader& reader, Widget& panel, int depth);
   void ReadComponent(const JsonReader& reader, Widget& panel, int depth);
   void ReadCommon(const JsonReader& reader, Widget& widget);

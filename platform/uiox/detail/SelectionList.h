@@ -21,6 +21,8 @@ class SelectionList {
   bool Has(NodeId node) const { return nodes_[node].selected != 0; }
   /// At the end; the node is not in it. Throws std::bad_alloc.
   void Add(NodeId node);
+  /// So that the list can hold that many nodes after a `Clear` or the removal of all, without an allocation.
+  void Reserve(std::size_t nodes) { places_.reserve(nodes); }
   /// The node is in it.
   void Remove(NodeId node) noexcept;
   template <class Visit>

@@ -114,6 +114,8 @@ TEST_F(Resources, WhatIsWrongIsNamedWithItsPlace) {
   EXPECT_EQ(Why(R"({"components": [{"name": "b", "class": "PushButton", "text": "x"}]})"),
             "components[0].text: there is no such key");
   EXPECT_EQ(Why("[]"), "an object is expected");
+  EXPECT_EQ(Why(R"({"title": "a", "title": "b"})"), "the key \"title\" stands twice");
+  EXPECT_EQ(Why(R"({"title": "a\u0000b"})"), "title: the text holds the character 0");
 }
 
 TEST_F(Resources, BrokenJsonIsRefused) {

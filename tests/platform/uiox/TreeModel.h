@@ -60,7 +60,10 @@ inline std::string Drawn(const uiox::TreeStore& store, uiox::NodeId parent = uio
 /// Follows a store by its notifications alone, as a view does; notes what does not fit.
 class Follower : public uiox::TreeObserver {
  public:
-  explicit Follower(uiox::TreeStore& store) : store_(store) { store_.AddObserver(this); }
+  explicit Follower(uiox::TreeStore& store) : store_(store) {
+    Read(uiox::kTop);
+    store_.AddObserver(this);
+  }
   ~Follower() override { store_.RemoveObserver(this); }
 
   PlainTree tree;
@@ -92,6 +95,14 @@ class Follower : public uiox::TreeObserver {
   void SelectionChanged() override { ++selection_changes; }
 
  private:
+  void Read(uiox::NodeId parent) {
+    std::vector<uiox::NodeId> children;
+    store_.AppendChildren(parent, children);
+    for (const uiox::NodeId child : children) {
+      tree.Insert(child, parent, tree.children[parent].size(), store_.Name(child));
+      Read(child);
+    }
+  }
   std::uint32_t Count(uiox::NodeId parent) { return static_cast<std::uint32_t>(tree.children[parent].size()); }
   void Expect(bool holds, const char* what) {
     if (!holds && complaint.empty()) complaint = what;

@@ -119,7 +119,12 @@ Status CreateControl(TreeWidget& tree, const Call& call) {
   if (const Status status = change.Check({})) return status;
   Widget* control = tree.CreateControl(TextOf(call.positional[0]), widget_class);
   if (!control) return kRefused;
-  change.Apply(*control);
+  try {
+    change.Apply(*control);
+  } catch (...) {
+    tree.DestroyControl(TextOf(call.positional[0]));
+    throw;
+  }
   return kOk;
 }
 
