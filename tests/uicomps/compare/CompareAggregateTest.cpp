@@ -1,5 +1,7 @@
 #include <tests/uicomps/compare/CompareWire.h>
 
+#include <ostream>
+
 namespace compare_tests {
 namespace {
 
@@ -53,6 +55,7 @@ struct ColorRow {
   Names children;
   const char* summary;
   const char* reads;
+  friend void PrintTo(const ColorRow& row, std::ostream* out) { *out << row.name; }
 };
 
 class CompareColorSummary : public CompareAggregate, public testing::WithParamInterface<ColorRow> {};
@@ -91,6 +94,7 @@ struct ShowRow {
   Names children;
   int summary;
   const char* reads;
+  friend void PrintTo(const ShowRow& row, std::ostream* out) { *out << row.name; }
 };
 
 class CompareShowSummary : public CompareAggregate, public testing::WithParamInterface<ShowRow> {};
@@ -124,6 +128,7 @@ struct DimRow {
   std::vector<unsigned> children;
   unsigned summary;
   const char* reads;
+  friend void PrintTo(const DimRow& row, std::ostream* out) { *out << row.name; }
 };
 
 class CompareDimSummary : public CompareAggregate, public testing::WithParamInterface<DimRow> {};

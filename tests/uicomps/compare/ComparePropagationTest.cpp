@@ -1,5 +1,7 @@
 #include <tests/uicomps/compare/CompareWire.h>
 
+#include <ostream>
+
 namespace compare_tests {
 namespace {
 
@@ -142,6 +144,7 @@ struct DifferenceRow {
   const char* a;
   const char* b;
   const char* overlap;
+  friend void PrintTo(const DifferenceRow& row, std::ostream* out) { *out << row.name; }
 };
 
 class CompareDifference : public CompareUpward, public testing::WithParamInterface<DifferenceRow> {};
