@@ -4,6 +4,7 @@
 #include <uiox_qt/Icons.h>
 #include <uiox_qt/Markup.h>
 #include <uiox_qt/Text.h>
+#include <uiox_qt/TreeFilter.h>
 #include <uiox_qt/TreeModelChanges.h>
 
 #include <QTimerEvent>
@@ -22,6 +23,12 @@ Qt::CheckState ToCheckState(unsigned state) {
 
 }  // namespace
 
+struct TreeModel::Filter {
+  Accepts accepts;
+  TreeFilter rows;
+  bool stale = false;
+};
+
 TreeModel::TreeModel(uiox::TreeWidget& tree, QObject* parent)
     : QAbstractItemModel(parent), tree_(&tree), changes_(std::make_unique<Changes>()) {
   tree.Store().AddObserver(this);
@@ -36,9 +43,17 @@ void TreeModel::Detach() {
   changes_->timer.stop();
   changes_->Clear();
   tree_->Store().RemoveObserver(this);
+  Reset([this] {
+    tree_ = nullptr;
+    filter_.reset();
+  });
+}
+
+template <class Change>
+void TreeModel::Reset(Change change) {
   changes_->changing_shape = true;
   beginResetModel();
-  tree_ = nullptr;
+  change();
   endResetModel();
   changes_->changing_shape = false;
 }
@@ -51,7 +66,12 @@ NodeId TreeModel::NodeOf(const QModelIndex& index) const {
 
 QModelIndex TreeModel::IndexOf(NodeId node, int column) const {
   if (!tree_ || changes_->suspended || node == kTop || !tree_->Store().Has(node)) return {};
-  return createIndex(static_cast<int>(tree_->Store().RowOf(node)), column, quintptr{node});
+  if (filter_ && !filter_->rows.Shows(node)) return {};
+  return createIndex(static_cast<int>(RowOf(node)), column, quintptr{node});
+}
+
+std::uint32_t TreeModel::RowOf(NodeId node) const {
+  return filter_ ? filter_->rows.RowOf(node) : tree_->Store().RowOf(node);
 }
 
 uiox::CellPlace TreeModel::CellOf(const QModelIndex& index) const {
@@ -69,7 +89,12 @@ const uiox::Column& TreeModel::ColumnAt(int column) const {
 QModelIndex TreeModel::index(int row, int column, const QModelIndex& parent) const {
   if (!tree_ || changes_->suspended || row < 0 || column < 0 || column >= columnCount() || parent.column() > 0)
     return {};
-  const NodeId node = tree_->Store().ChildAt(NodeOf(parent), static_cast<std::uint32_t>(row));
+  const auto at = static_cast<std::uint32_t>(row);
+  if (filter_) {
+    const std::vector<NodeId>& children = filter_->rows.Children(NodeOf(parent));
+    return at < children.size() ? createIndex(row, column, quintptr{children[at]}) : QModelIndex();
+  }
+  const NodeId node = tree_->Store().ChildAt(NodeOf(parent), at);
   return node == kNoNode ? QModelIndex() : createIndex(row, column, quintptr{node});
 }
 
@@ -80,6 +105,7 @@ QModelIndex TreeModel::parent(const QModelIndex& child) const {
 
 int TreeModel::rowCount(const QModelIndex& parent) const {
   if (!tree_ || changes_->suspended || parent.column() > 0) return 0;
+  if (filter_) return static_cast<int>(filter_->rows.Children(NodeOf(parent)).size());
   return static_cast<int>(tree_->Store().ChildCount(NodeOf(parent)));
 }
 
@@ -88,6 +114,36 @@ int TreeModel::columnCount(const QModelIndex&) const {
 }
 
 bool TreeModel::hasChildren(const QModelIndex& parent) const { return rowCount(parent) > 0; }
+
+// --- Filter ----------------------------------------------------------------------------------------------------------
+
+void TreeModel::SetFilter(Accepts accepts) {
+  if (!tree_ || (!accepts && !filter_)) return;
+  Reset([&] {
+    filter_.reset();
+    if (!accepts) return;
+    filter_ = std::make_unique<Filter>();
+    filter_->accepts = std::move(accepts);
+    if (!changes_->suspended) filter_->rows.Build(tree_->Store(), filter_->accepts);
+  });
+}
+
+bool TreeModel::HasFilter() const { return filter_ != nullptr; }
+
+void TreeModel::Refilter() {
+  if (!filter_ || changes_->suspended) return;
+  Reset([this] {
+    filter_->rows.Build(tree_->Store(), filter_->accepts);
+    filter_->stale = false;
+  });
+}
+
+void TreeModel::AppendChildren(NodeId node, std::vector<NodeId>& children) const {
+  if (!tree_ || changes_->suspended) return;
+  if (!filter_) return tree_->Store().AppendChildren(node, children);
+  const std::vector<NodeId>& shown = filter_->rows.Children(node);
+  children.insert(children.end(), shown.begin(), shown.end());
+}
 
 // --- Data ------------------------------------------------------------------------------------------------------------
 
@@ -153,6 +209,11 @@ Qt::ItemFlags TreeModel::flags(const QModelIndex& index) const {
 
 bool TreeModel::BeginShapeChange() {
   if (changes_->suspended) return false;
+  if (filter_) {
+    // What the change makes of the filter's rows is found out once for all changes until the event loop is back.
+    Suspend();
+    return false;
+  }
   if (tree_->Redraw()) {
     changes_->shape_changes_without_redraw = 0;
   } else if (++changes_->shape_changes_without_redraw > Changes::kFewShapeChanges) {
@@ -202,6 +263,7 @@ void TreeModel::Moved(NodeId, NodeId, NodeId, std::uint32_t) {
 void TreeModel::NodeChanged(NodeId node, uiox::NodeChanges changes) {
   constexpr uiox::NodeChanges kUnseen = uiox::kUserDataChanged | uiox::kFirstIntChanged | uiox::kSecondTextChanged;
   if ((changes & ~kUnseen) != 0) Collect(node);
+  if (filter_ && (changes & uiox::kLabelChanged) != 0) filter_->stale = true;
 }
 
 void TreeModel::CellChanged(uiox::CellPlace cell) { Collect(cell.node); }
@@ -227,23 +289,22 @@ bool TreeModel::IsSuspended() const { return changes_->suspended; }
 bool TreeModel::IsChangingShape() const { return changes_->changing_shape; }
 
 void TreeModel::Suspend() {
-  changes_->changing_shape = true;
-  beginResetModel();
-  changes_->suspended = true;
-  changes_->Clear();
-  endResetModel();
-  changes_->changing_shape = false;
+  Reset([this] {
+    changes_->suspended = true;
+    changes_->Clear();
+  });
   if (!changes_->timer.isActive()) changes_->timer.start(0, this);
 }
 
 void TreeModel::Resume() {
   if (!changes_->suspended || !tree_) return;
-  changes_->changing_shape = true;
-  beginResetModel();
-  changes_->suspended = false;
-  changes_->shape_changes_without_redraw = 0;
-  endResetModel();
-  changes_->changing_shape = false;
+  Reset([this] {
+    changes_->suspended = false;
+    changes_->shape_changes_without_redraw = 0;
+    if (!filter_) return;
+    filter_->rows.Build(tree_->Store(), filter_->accepts);
+    filter_->stale = false;
+  });
 }
 
 void TreeModel::timerEvent(QTimerEvent* event) {
@@ -259,6 +320,7 @@ void TreeModel::Flush() {
     return;
   }
   Resume();
+  if (filter_ && filter_->stale) Refilter();
   std::vector<NodeId> nodes;
   std::vector<NodeId> parents;
   changes_->Take(nodes, parents);

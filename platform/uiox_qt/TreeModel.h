@@ -10,8 +10,10 @@
 
 #include <QAbstractItemModel>
 
+#include <functional>
 #include <memory>
 #include <string_view>
+#include <vector>
 
 namespace uiox_qt {
 
@@ -50,6 +52,19 @@ class OXECAD_UIOX_QT_API TreeModel final : public QAbstractItemModel, private ui
   /// The column's description: of the labels for 0.
   const uiox::Column& ColumnAt(int column) const;
 
+  // --- Filter --------------------------------------------------------------------------------------------------------
+
+  /// Whether a node is to be shown.
+  using Accepts = std::function<bool(const uiox::TreeStore& store, uiox::NodeId node)>;
+  /// Shows only the nodes that are accepted and those above them; an empty function: all. The model is reset; it asks
+  /// for each node, and again after labels, rows or their order have changed. The tree itself stays as it is.
+  void SetFilter(Accepts accepts);
+  bool HasFilter() const;
+  /// Asks again, after what `accepts` says has changed.
+  void Refilter();
+  /// Appends the children that the model shows, of a node or `kTop`.
+  void AppendChildren(uiox::NodeId node, std::vector<uiox::NodeId>& children) const;
+
   /// Tells collected changes now.
   void Flush();
   /// While redraw is off and much changed: the model is empty.
@@ -77,7 +92,11 @@ class OXECAD_UIOX_QT_API TreeModel final : public QAbstractItemModel, private ui
 
  private:
   class Changes;
+  struct Filter;
 
+  std::uint32_t RowOf(uiox::NodeId node) const;
+  template <class Change>
+  void Reset(Change change);
   /// False when the change is not to be told.
   bool BeginShapeChange();
   void Collect(uiox::NodeId node);
@@ -98,6 +117,7 @@ class OXECAD_UIOX_QT_API TreeModel final : public QAbstractItemModel, private ui
 
   uiox::TreeWidget* tree_;
   std::unique_ptr<Changes> changes_;
+  std::unique_ptr<Filter> filter_;  // null: all nodes are shown
 };
 
 }  // namespace uiox_qt

@@ -87,7 +87,8 @@ void TreeView::Sync::NoteSelection(const QItemSelection& selected, const QItemSe
 }
 
 void TreeView::Sync::NoteToggle(const QModelIndex& index, bool expanded) {
-  if (following_ > 0 || model_.IsChangingShape() || !Tree()) return;
+  // What is opened to show what a filter has left is no matter of the tree.
+  if (following_ > 0 || model_.IsChangingShape() || model_.HasFilter() || !Tree()) return;
   toggles_.push_back({model_.NodeOf(index), expanded});
   if (depth_ == 0) {
     Begin();
@@ -195,7 +196,8 @@ void TreeView::Sync::FollowAll() {
     if (store.Has(current_)) {
       view_.selectionModel()->setCurrentIndex(model_.IndexOf(current_, current_column_), QItemSelectionModel::NoUpdate);
     }
-    if (store.Has(topmost_)) view_.scrollTo(model_.IndexOf(topmost_), QAbstractItemView::PositionAtTop);
+    if (store.Has(topmost_) && !model_.HasFilter())
+      view_.scrollTo(model_.IndexOf(topmost_), QAbstractItemView::PositionAtTop);
   }
   menus_.FollowAll();
 }
@@ -210,7 +212,7 @@ void TreeView::Sync::FollowRoot() {
 void TreeView::Sync::FollowExpanded(NodeId node) {
   const uiox::TreeStore& store = Tree()->Store();
   const QModelIndex index = model_.IndexOf(node);
-  if (!index.isValid() || store.ChildCount(node) == 0) return;
+  if (!index.isValid() || store.ChildCount(node) == 0 || model_.HasFilter()) return;
   const Following following(*this);
   const bool expanded = store.Expanded(node) != 0;
   view_.setExpanded(index, expanded);
@@ -229,11 +231,11 @@ void TreeView::Sync::FollowBranch(NodeId node) {
     const NodeId parent = open.back();
     open.pop_back();
     children.clear();
-    store.AppendChildren(parent, children);
+    model_.AppendChildren(parent, children);
     for (const NodeId child : children) {
       if (store.ChildCount(child) == 0) continue;
       const QModelIndex index = model_.IndexOf(child);
-      const bool expanded = store.Expanded(child) != 0;
+      const bool expanded = model_.HasFilter() || store.Expanded(child) != 0;
       if (view_.isExpanded(index) != expanded) {
         // One layout for all of them instead of one for each.
         if (!std::exchange(laid_out, true)) view_.scheduleDelayedItemsLayout();

@@ -1,12 +1,17 @@
 #include <uiox_qt/TreeView.h>
 
 #include <uiox/UserEvents.h>
+#include <uiox_qt/Text.h>
 #include <uiox_qt/TreeSync.h>
 
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
+
+#include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace uiox_qt {
 
@@ -34,7 +39,8 @@ QAbstractItemView::SelectionMode ToQt(uiox::SelectionMode mode) {
 
 TreeView::TreeView(uiox::TreeWidget& tree, QWidget* parent) : QTreeView(parent) {
   const uiox::TreeStyle& style = tree.Style();
-  setObjectName(QString::fromUtf8(tree.Name()));
+  setObjectName(FromName(tree.Name()));
+  setAccessibleName(style.label_column.title.empty() ? FromName(tree.Name()) : FromWide(style.label_column.title));
   setUniformRowHeights(true);
   setEditTriggers(NoEditTriggers);
   setExpandsOnDoubleClick(false);
@@ -70,6 +76,8 @@ uiox::TreeWidget* TreeView::Tree() const { return sync_->Tree(); }
 void TreeView::Detach() { sync_->Detach(); }
 
 void TreeView::FollowWidget() { sync_->FollowWidget(); }
+
+void TreeView::SetFilter(TreeModel::Accepts accepts) { Model().SetFilter(std::move(accepts)); }
 
 // --- Where -----------------------------------------------------------------------------------------------------------
 

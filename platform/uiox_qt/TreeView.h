@@ -6,14 +6,13 @@
 #include <uiox/NodeId.h>
 #include <uiox/TreeWidget.h>
 #include <uiox_qt/Export.h>
+#include <uiox_qt/TreeModel.h>
 
 #include <QTreeView>
 
 #include <memory>
 
 namespace uiox_qt {
-
-class TreeModel;
 
 /// Shows one tree. Expansion, selection, check boxes and cells are the store's: the view follows it, and what the user
 /// does goes through `uiox::user` after Qt has finished with the event, so that a callback may change or end anything.
@@ -37,6 +36,10 @@ class OXECAD_UIOX_QT_API TreeView final : public QTreeView {
   void Detach();
   /// The tree's sensitivity or redraw has changed.
   void FollowWidget();
+
+  /// Shows only the nodes that are accepted and those above them, all of these open; an empty function: the tree as it
+  /// was before. The tree's expansion, checks and selection stay, and nothing is told to it.
+  void SetFilter(TreeModel::Accepts accepts);
 
   /// `kNoNode` where there is none.
   uiox::NodeId NodeAt(const QPoint& viewport_position) const;
