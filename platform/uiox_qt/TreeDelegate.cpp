@@ -5,8 +5,10 @@
 #include <uiox_qt/TreeModel.h>
 
 #include <QApplication>
+#include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -128,6 +130,15 @@ QSize TreeDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelInd
 
 bool TreeDelegate::editorEvent(QEvent*, QAbstractItemModel*, const QStyleOptionViewItem&, const QModelIndex&) {
   return false;
+}
+
+bool TreeDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                             const QModelIndex& index) {
+  const bool wanted =
+      index.isValid() && event->type() == QEvent::ToolTip && sizeHint(option, index).width() > option.rect.width();
+  if (wanted) return QStyledItemDelegate::helpEvent(event, view, option, index);
+  QToolTip::hideText();
+  return true;
 }
 
 }  // namespace uiox_qt

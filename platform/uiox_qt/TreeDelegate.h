@@ -20,6 +20,10 @@ class TreeDelegate final : public QStyledItemDelegate {
   /// Checks are the view's matter.
   bool editorEvent(QEvent*, QAbstractItemModel*, const QStyleOptionViewItem&, const QModelIndex&) override;
 
+  /// A tooltip for what does not fit into its column.
+  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) override;
+
   /// Where the check box or the check button is in an item's rectangle; empty when there is none.
   QRect CheckRect(const QRect& item, const QModelIndex& index, const QWidget* view) const;
 
