@@ -176,17 +176,22 @@ void DeviceWindow::FollowLook() {
     if (!balloon) clearMask();
     if (visible) show();
   }
+  FollowMask();
   update();
 }
 
-void DeviceWindow::resizeEvent(QResizeEvent* event) {
-  QDialog::resizeEvent(event);
+/// Where nothing blends windows, what is outside the balloon must not be seen; the smooth edge lies within the mask.
+void DeviceWindow::FollowMask() {
   if (!balloon_) return;
-  // Where nothing blends windows, what is outside the balloon must not be seen; the smooth edge lies within the mask.
   QPainterPathStroker edge;
   edge.setWidth(2);
   const QPainterPath path = BalloonPath(size(), arrow_);
   setMask(QRegion(path.united(edge.createStroke(path)).toFillPolygon().toPolygon()));
+}
+
+void DeviceWindow::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  FollowMask();
 }
 
 void DeviceWindow::paintEvent(QPaintEvent* event) {

@@ -43,6 +43,7 @@ class DeviceWindow final : public QDialog {
 
  private:
   void FollowLook();
+  void FollowMask();
   void FollowPlace();
   void FitSize();
   void ComeUp();
