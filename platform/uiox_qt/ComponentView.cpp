@@ -46,6 +46,8 @@ void ComponentView::FollowAll() {
         WidgetChange::Shown, WidgetChange::Redraw}) {
     Follow(change);
   }
+  const uiox::Widget::TextRange mark = component_->SelectedText();
+  if (mark.from != mark.to) Follow(WidgetChange::SelectedText);
   constexpr std::uint32_t kPresetBackground = 0x00FFFFFF;
   if (component_->BackgroundColor() != kPresetBackground) Follow(WidgetChange::BackgroundColor);
 }

@@ -4,6 +4,7 @@
 #include <uiox_qt/FieldView.h>
 #include <uiox_qt/OptionMenuView.h>
 #include <uiox_qt/PanelView.h>
+#include <uiox_qt/Text.h>
 #include <uiox_qt/TextViews.h>
 #include <uiox_qt/TreeView.h>
 
@@ -48,7 +49,7 @@ DeviceView::DeviceView(uiox::Device& device) : device_(device) {
   panel_ = panel;
   parts_[&device] = {panel, panel};
   Fill(*panel);
-  panel->setObjectName(QString::fromUtf8(device.Name()));
+  panel->setObjectName(FromName(device.Name()));
   FollowDevice(uiox::WidgetChange::DefaultButton);
 }
 

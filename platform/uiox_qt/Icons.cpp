@@ -28,6 +28,8 @@ struct Made {
 
 QHash<QByteArray, std::vector<Made>>& Cache() {
   static QHash<QByteArray, std::vector<Made>> cache;
+  // No pixmap may outlive the application.
+  [[maybe_unused]] static const bool cleared_at_the_end = (qAddPostRoutine([] { cache.clear(); }), true);
   return cache;
 }
 

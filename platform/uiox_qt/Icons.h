@@ -23,7 +23,7 @@ OXECAD_UIOX_QT_API QPixmap ImagePixmap(std::string_view name, int side, qreal ra
 
 /// An image was defined anew: what was made of it is forgotten.
 void ForgetImage(std::string_view name);
-/// The application ends: no pixmap may outlive it.
+/// Nobody watches the images any more: what was made of them is forgotten.
 void ForgetImages();
 
 /// An icon of an image; null icon when there is no such image. It is drawn for each size and device anew.
