@@ -41,7 +41,7 @@ struct MarkupRow {
   const char* label;
   const char* runs;
 };
-void PrintTo(const MarkupRow& row, std::ostream* out) { *out << row.label; }
+void PrintTo(const MarkupRow& row, std::ostream* out) { *out << row.name; }
 
 class Markup : public ::testing::TestWithParam<MarkupRow> {};
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -61,6 +62,7 @@ struct RefusalRow {
   Arguments arguments;
   const char* message;
 };
+void PrintTo(const RefusalRow& row, std::ostream* out) { *out << row.fact; }
 
 class CommandLineRefusal : public ::testing::TestWithParam<RefusalRow> {};
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+#include <ostream>
 #include <string>
 
 namespace oxviewer {
@@ -13,6 +14,8 @@ struct MarkupRow {
   const wchar_t* markup;
   const wchar_t* text;
 };
+
+void PrintTo(const MarkupRow& row, std::ostream* out) { *out << row.fact; }
 
 const MarkupRow kRows[] = {
     {"TagsAreLeftOut", L"<b>Resistors</b> (3)", L"Resistors (3)"},
