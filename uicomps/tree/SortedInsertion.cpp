@@ -1,8 +1,8 @@
-#include <algorithm>
 #include <cstdio>
 #include <string>
 
 #include <uicomps/base/Text.h>
+#include <uicomps/tree/LabelOrder.h>
 #include <uicomps/tree/SortedNames.h>
 #include <uicomps/tree/Tree.h>
 
@@ -132,9 +132,7 @@ void Tree::SortChildrenByType(std::vector<NodeInfo>& children, NodeComparableTyp
     SayNotSupported();
     return;
   }
-  const PlainLabelOrder before;
-  std::sort(children.begin(), children.end(),
-            [&](const NodeInfo& a, const NodeInfo& b) { return before.Compare(a, b); });
+  SortByLabel<true>(children, [](const NodeInfo& child) { return child.label.c_str(); });
 }
 
 }  // namespace oxecad_ui

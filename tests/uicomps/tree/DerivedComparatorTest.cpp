@@ -25,6 +25,21 @@ TEST(DerivedComparator, ChangesTheDigitRange) {
 }
 
 template <class Base>
+struct LetterDigits : Base {
+  wchar_t DigitLow() const override { return L'a'; }
+  wchar_t DigitHigh() const override { return L'j'; }
+};
+
+TEST(DerivedComparator, CountsFromTheLowestDigit) {
+  EXPECT_TRUE(LetterDigits<Plain>().Compare(L"c", L"ba")) << "2 before 10";
+  EXPECT_FALSE(LetterDigits<Plain>().Compare(L"ba", L"c"));
+  EXPECT_TRUE(LetterDigits<Plain>().Compare(L"b", L"ab")) << "1 before 01";
+  EXPECT_TRUE(LetterDigits<Plain>().Compare(L"-f", L"-d")) << "-5 before -3";
+  EXPECT_TRUE(LetterDigits<Ecad>().Compare(L"c", L"ba"));
+  EXPECT_TRUE(LetterDigits<Ecad>().Compare(L"-d", L"-f"));
+}
+
+template <class Base>
 struct NoDigits : Base {
   wchar_t DigitLow() const override { return L'1'; }
   wchar_t DigitHigh() const override { return L'0'; }

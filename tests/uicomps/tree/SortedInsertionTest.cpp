@@ -2,7 +2,9 @@
 #include <tests/uicomps/tree/TreeTest.h>
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
+#include <set>
 
 namespace oxecad_ui {
 namespace {
@@ -184,6 +186,36 @@ TEST_F(SortedInsertion, FindsThePlaceOfEachOfManySiblings) {
     const std::string expected = place == sorted.end() ? "end" : "n" + std::to_string(*place);
     sorted.insert(place, number);
     ASSERT_EQ(Add(tree, name, label.c_str()), expected) << i;
+  }
+}
+
+/// Knows each node's label without asking the toolkit: it is the name.
+class NamedTree : public Tree {
+ public:
+  using Tree::GetNodeInfo;
+  using Tree::Tree;
+  bool GetNodeInfo(const char* node, NodeInfo& info) const override {
+    info.label.assign(node, node + std::char_traits<char>::length(node));
+    return true;
+  }
+};
+
+TEST_F(SortedInsertion, FindsThePlaceOfEachOfThousandsOfSiblings) {
+  constexpr int kCount = 3001;  // a prime, so that a step of 1009 comes by every number
+  NamedTree named("dev", "named");
+  std::string before;
+  toolkit.When(Doing(2030)).Run([&](const uiox::Call& call) {
+    before = call.positional[3].Text() ? call.positional[3].Text() : "end";
+  });
+  std::set<int> there;
+  for (int i = 0; i < kCount; ++i) {
+    const int number = i * 1009 % kCount;
+    const std::string name = "R" + std::to_string(number);
+    const auto next = there.insert(number).first;
+    const std::string expected = std::next(next) == there.end() ? "end" : "R" + std::to_string(*std::next(next));
+    const std::wstring label(name.begin(), name.end());
+    ASSERT_TRUE(named.AddEcadNode(name.c_str(), label.c_str(), "root", Tree::ByLabel, "", L"", 0, 0, 0, nullptr));
+    ASSERT_EQ(before, expected) << "number " << i << ": " << name;
   }
 }
 
