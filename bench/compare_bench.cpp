@@ -38,13 +38,19 @@ class EmptyCompareTree : public CompareColorTree {
     info.name = name;
     info.type = s_compareType;
     info.colorA = info.colorB = info.colorOverlap = color;
+    info.showMode = Mode(color);
+    info.dim = Dim(color);
     info.designFlag = DesignBoth;
     AddNode(info);
   }
   void Change(const char* node, unsigned int color) {
-    ChangeNodeInfo(node, color, color, color, color == kRed ? ShowMode::Both : ShowMode::Diff,
-                   color == kRed ? Unchecked : Checked, DesignBoth);
+    ChangeNodeInfo(node, color, color, color, Mode(color), Dim(color), DesignBoth);
   }
+
+ private:
+  // Another colour goes with other values in every cell.
+  static ShowMode Mode(unsigned int color) { return color == kRed ? ShowMode::Both : ShowMode::Diff; }
+  static NodeState Dim(unsigned int color) { return color == kRed ? Unchecked : Checked; }
 };
 
 /// Compare nodes, ten to a parent: n0 below "root", node n below node (n - 1) / 10.
@@ -102,7 +108,7 @@ void ClimbStopsAtParent(benchmark::State& state) {
 }
 BENCHMARK(ClimbStopsAtParent)->Arg(100000)->Arg(1000000)->Unit(benchmark::kMicrosecond);
 
-/// Adds siblings one by one; `different`: of two colours in turn.
+/// Adds siblings one by one; `different`: of two colours in turn, so that the parent is mixed from the second on.
 void FillSiblings(benchmark::State& state, bool different) {
   std::unique_ptr<EmptyCompareTree> tree;
   const auto fill = [&] {
