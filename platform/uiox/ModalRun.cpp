@@ -43,7 +43,11 @@ int Suite::RunModal(Device& device) {
     run.over = true;
     Tell(&SuiteObserver::ModalRunEnded, device, run.result);
   }
-  if (Find(device_before, component_before)) SetCurrent(device_before, component_before);
+  if (Find(device_before, component_before)) {
+    SetCurrent(device_before, component_before);
+  } else {
+    SetCurrent({}, {});
+  }
   return run.result;
 }
 

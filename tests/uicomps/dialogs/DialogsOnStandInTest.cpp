@@ -35,7 +35,6 @@ class DialogsOnStandIn : public testing::Test {
   void Then(std::function<void()> action) { suite.QueueUserAction(std::move(action)); }
   /// Shows a balloon at the field that the user works in; the user then does what was queued.
   int Show(unsigned buttons, unsigned default_button = 0) {
-    suite.SetCurrent("dlg", "name");
     return ShowBalloonMessage(BalloonQuestion, "Overwrite?", 2, buttons, default_button, "name");
   }
   uiox::Widget& Part(const char* name) { return *suite.Find(kBalloon, name); }
@@ -135,6 +134,16 @@ TEST_F(DialogsOnStandIn, TheBalloonPointsAtItsAnchorInEveryQuadrant) {
     });
     EXPECT_EQ(Show(BalloonOk, BalloonOk), BalloonOk) << row.quadrant;
   }
+}
+
+TEST_F(DialogsOnStandIn, AfterABalloonTheUserIsWhereHeWas) {
+  Then([this] {
+    EXPECT_TRUE(balloon.Press("ok"));
+    EXPECT_EQ(suite.CurrentDevice(), kBalloon);
+  });
+  EXPECT_EQ(Show(BalloonOk), BalloonOk);
+  EXPECT_EQ(suite.CurrentDevice(), "dlg");
+  EXPECT_EQ(suite.CurrentComponent(), "name");
 }
 
 TEST_F(DialogsOnStandIn, AnAnchorThatIsNotThereGivesNoBalloon) {
