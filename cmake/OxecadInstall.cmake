@@ -20,8 +20,9 @@ endforeach()
 
 set(oxecad_package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/oxecad_ui")
 
-# oxecad_install_targets(COMPONENT TARGET...): libraries, found by one another wherever the prefix lies.
-function(oxecad_install_targets component)
+# oxecad_install_targets(COMPONENT RUNTIME TARGET...): libraries, found by one another wherever the prefix lies. COMPONENT
+# is the package's, RUNTIME the installation's.
+function(oxecad_install_targets component runtime)
   foreach(target IN LISTS ARGN)
     get_target_property(type ${target} TYPE)
     if(type STREQUAL "SHARED_LIBRARY")
@@ -29,8 +30,10 @@ function(oxecad_install_targets component)
     endif()
   endforeach()
   install(TARGETS ${ARGN} EXPORT oxecad_ui-${component}
-    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT runtime NAMELINK_COMPONENT development)
+    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT ${runtime} NAMELINK_COMPONENT development)
   install(EXPORT oxecad_ui-${component} NAMESPACE oxecad:: DESTINATION "${oxecad_package_dir}" COMPONENT development)
+  # The build tree can be found as well: with oxecad_ui_DIR set to it.
+  export(EXPORT oxecad_ui-${component} NAMESPACE oxecad:: FILE "${PROJECT_BINARY_DIR}/oxecad_ui-${component}.cmake")
 endfunction()
 
 set(platform_libraries "")
@@ -39,12 +42,15 @@ if(NOT OXECAD_PLATFORM_DIR)
   install(DIRECTORY platform/ DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}" COMPONENT development
     FILES_MATCHING PATTERN "*.h" PATTERN "detail" EXCLUDE PATTERN "uiox_qt" EXCLUDE)
 endif()
-oxecad_install_targets(ui oxecad_ui oxecad_platform ${platform_libraries})
+oxecad_install_targets(ui runtime oxecad_ui oxecad_platform ${platform_libraries})
 
 if(OXECAD_BUILD_QT)
-  oxecad_install_targets(qt uiox_qt)
+  oxecad_install_targets(qt front uiox_qt)
   install(FILES platform/uiox_qt/QtFront.h platform/uiox_qt/Export.h
     DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/uiox_qt" COMPONENT development)
+  file(RELATIVE_PATH libraries_from_programs "/${CMAKE_INSTALL_BINDIR}" "/${CMAKE_INSTALL_LIBDIR}")
+  set_target_properties(oxviewer PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries_from_programs}")
+  install(TARGETS oxviewer RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT viewer)
 endif()
 
 configure_package_config_file(cmake/oxecad_uiConfig.cmake.in "${PROJECT_BINARY_DIR}/oxecad_uiConfig.cmake"
@@ -53,13 +59,33 @@ write_basic_package_version_file("${PROJECT_BINARY_DIR}/oxecad_uiConfigVersion.c
 install(FILES "${PROJECT_BINARY_DIR}/oxecad_uiConfig.cmake" "${PROJECT_BINARY_DIR}/oxecad_uiConfigVersion.cmake"
   DESTINATION "${oxecad_package_dir}" COMPONENT development)
 
-# The pkg-config file finds its prefix from where it lies.
+# The pkg-config files find their prefix from where they lie.
 file(RELATIVE_PATH oxecad_prefix_from_pc "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
 string(REGEX REPLACE "/$" "" oxecad_prefix_from_pc "${oxecad_prefix_from_pc}")
-set(oxecad_pc_libraries "")
+
+# oxecad_pkg_config(NAME DESCRIPTION LIBRARIES [REQUIRES])
+function(oxecad_pkg_config name description libraries)
+  set(requires "${ARGN}")
+  configure_file("${PROJECT_SOURCE_DIR}/cmake/oxecad.pc.in" "${PROJECT_BINARY_DIR}/${name}.pc" @ONLY)
+  install(FILES "${PROJECT_BINARY_DIR}/${name}.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT development)
+endfunction()
+
+set(ui_libraries "-L\${libdir} -loxecad_ui")
+set(platform_cflags "")
 foreach(library IN LISTS platform_libraries)
-  string(APPEND oxecad_pc_libraries " -l${library}")
+  string(APPEND ui_libraries " -l${library}")
 endforeach()
-configure_file(cmake/oxecad_ui.pc.in "${PROJECT_BINARY_DIR}/oxecad_ui.pc" @ONLY)
-install(FILES "${PROJECT_BINARY_DIR}/oxecad_ui.pc"
-  DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT development)
+if(OXECAD_PLATFORM_DIR)
+  set(platform_cflags " -I${OXECAD_PLATFORM_DIR}/include")
+  get_target_property(libraries oxecad_platform INTERFACE_LINK_LIBRARIES)
+  list(JOIN libraries " " libraries)
+  string(APPEND ui_libraries " ${libraries}")
+endif()
+oxecad_pkg_config(oxecad_ui "${PROJECT_DESCRIPTION}" "${ui_libraries}")
+if(NOT OXECAD_PLATFORM_DIR)
+  oxecad_pkg_config(oxecad_uiox "The stand-in toolkit of oxecad_ui, without windows" "-L\${libdir} -luiox")
+endif()
+if(OXECAD_BUILD_QT)
+  oxecad_pkg_config(oxecad_uiox_qt "The stand-in toolkit of oxecad_ui in Qt windows" "-L\${libdir} -luiox_qt"
+    "oxecad_uiox = ${PROJECT_VERSION} Qt6Widgets >= 6.4")
+endif()
