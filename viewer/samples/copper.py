@@ -3,7 +3,7 @@
 from math import cos, hypot, pi, sin, atan2
 
 from router import NARROW, VIA
-from shapes import bounds, gap, pad_shape, placed_pads
+from shapes import bounds, gap, pad_shape, placed_pads, to_segment
 from zones import fill, inside_polygon
 
 LEAST_GAP = 140
@@ -46,6 +46,10 @@ class Board:
             return
         cut = min(most, min(arm[2] for arm in arms) * 0.45) // 50 * 50
         points = [(x + (far[0] - x) * cut / length, y + (far[1] - y) * cut / length) for _, far, length, _ in arms]
+        joints = [end for on_net, on, x1, y1, x2, y2, _ in self.segments if (on_net, on) == (net, layer)
+                  for end in ((x1, y1), (x2, y2)) if end != (x, y)] + [via[1:] for via in self.vias if via[0] == net]
+        if any(to_segment(*joint, x, y, *point) < 1 for joint in joints for point in points):
+            return  # another track begins on what would be cut off
         (ax, ay), (bx, by) = points
         half = (atan2(ay - y, ax - x) - atan2(by - y, bx - x)) % (2 * pi) / 2
         if half > pi / 2:

@@ -125,7 +125,8 @@ TEST_F(ProgramTest, WrongArgumentsAreOneLine) {
 }
 
 TEST_F(ProgramTest, BadBoardIsOneLineWithItsPlace) {
-  const std::string broken = folder_.Write("broken.kicad_pcb", "(kicad_pcb\n  (net 1 \"GND\")\n  (segment (start x 1)))\n");
+  const std::string broken =
+      folder_.Write("broken.kicad_pcb", "(kicad_pcb\n  (net 1 \"GND\")\n  (segment (start x 1)))\n");
   for (const std::vector<std::string>& how :
        {std::vector<std::string>{"--dump"}, {"--screenshot", folder_.PathOf("p")}, {}}) {
     std::vector<std::string> arguments = how;
