@@ -1,5 +1,6 @@
 #include <uiox_qt/TreeDelegate.h>
 
+#include <uiox_qt/CheckGesture.h>
 #include <uiox_qt/Icons.h>
 #include <uiox_qt/LabelPainter.h>
 #include <uiox_qt/TreeModel.h>
@@ -35,7 +36,8 @@ QRect Centered(QSize size, const QRect& rect) {
 
 }  // namespace
 
-TreeDelegate::TreeDelegate(const TreeModel& model, QObject* parent) : QStyledItemDelegate(parent), model_(model) {}
+TreeDelegate::TreeDelegate(const TreeModel& model, const CheckGesture& check, QObject* parent)
+    : QStyledItemDelegate(parent), model_(model), check_(check) {}
 
 TreeDelegate::Parts TreeDelegate::LayOut(const QRect& item, const QModelIndex& index, const QWidget* view) const {
   Parts parts;
@@ -92,7 +94,9 @@ void TreeDelegate::PaintCheck(QPainter& painter, const QStyleOptionViewItem& opt
   QStyleOptionViewItem box(option);
   box.rect = rect;
   box.state &= ~(QStyle::State_HasFocus | QStyle::State_On | QStyle::State_Off | QStyle::State_NoChange);
-  const int state = index.data(Qt::CheckStateRole).toInt();
+  int state = index.data(Qt::CheckStateRole).toInt();
+  bool checked = false;
+  if (index.column() == 0 && check_.Shows(model_.NodeOf(index), checked)) state = checked ? Qt::Checked : Qt::Unchecked;
   box.state |= state == Qt::Checked            ? QStyle::State_On
                : state == Qt::PartiallyChecked ? QStyle::State_NoChange
                                                : QStyle::State_Off;

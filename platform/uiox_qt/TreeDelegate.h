@@ -7,13 +7,15 @@
 
 namespace uiox_qt {
 
+class CheckGesture;
 class TreeModel;
 
 /// Draws check box, image and label of a node, and labels and check buttons of cells, each with the style's own parts.
 /// All rows are equally high.
 class TreeDelegate final : public QStyledItemDelegate {
  public:
-  explicit TreeDelegate(const TreeModel& model, QObject* parent = nullptr);
+  /// Boxes that a gesture covers are drawn as they will be.
+  TreeDelegate(const TreeModel& model, const CheckGesture& check, QObject* parent = nullptr);
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
@@ -39,6 +41,7 @@ class TreeDelegate final : public QStyledItemDelegate {
   void PaintText(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index, QRect rect) const;
 
   const TreeModel& model_;
+  const CheckGesture& check_;
 };
 
 }  // namespace uiox_qt

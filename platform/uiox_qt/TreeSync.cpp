@@ -27,7 +27,7 @@ class TreeView::Sync::Following {
 };
 
 TreeView::Sync::Sync(TreeView& view, uiox::TreeWidget& tree)
-    : view_(view), model_(tree), delegate_(model_), menus_(view, model_) {
+    : view_(view), model_(tree), delegate_(model_, view.check_), menus_(view, model_) {
   const Following following(*this);
   view.setModel(&model_);
   view.setItemDelegate(&delegate_);

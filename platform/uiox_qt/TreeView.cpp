@@ -79,6 +79,8 @@ void TreeView::FollowWidget() { sync_->FollowWidget(); }
 
 void TreeView::SetFilter(TreeModel::Accepts accepts) { Model().SetFilter(std::move(accepts)); }
 
+void TreeView::SetSearch(std::function<void(const QString&)> search) { search_ = std::move(search); }
+
 // --- Where -----------------------------------------------------------------------------------------------------------
 
 NodeId TreeView::NodeAt(const QPoint& viewport_position) const {
@@ -133,6 +135,9 @@ void TreeView::mousePressEvent(QMouseEvent* event) {
   if (IsBox(pressed_)) {
     // A box is no part of the selection: what is selected stays so.
     selectionModel()->setCurrentIndex(Model().IndexOf(pressed_.node, pressed_.column), QItemSelectionModel::NoUpdate);
+    if (pressed_.part == Part::CheckBox) {
+      BeginCheck(pressed_.node, event->modifiers().testFlag(Qt::ShiftModifier));
+    }
     event->accept();
   } else {
     QTreeView::mousePressEvent(event);
@@ -141,7 +146,14 @@ void TreeView::mousePressEvent(QMouseEvent* event) {
 }
 
 void TreeView::mouseMoveEvent(QMouseEvent* event) {
-  if (IsBox(pressed_)) return;
+  if (IsBox(pressed_)) {
+    const Spot spot = SpotAt(event->position().toPoint());
+    if (check_.Active() && spot.part == Part::CheckBox) {
+      check_.Cover(RowsBetween(check_.First(), spot.node));
+      viewport()->update();
+    }
+    return;
+  }
   sync_->Begin();
   QTreeView::mouseMoveEvent(event);
   sync_->Deliver();
@@ -151,7 +163,12 @@ void TreeView::mouseReleaseEvent(QMouseEvent* event) {
   sync_->Begin();
   const Spot pressed = std::exchange(pressed_, Spot());
   if (!IsBox(pressed)) QTreeView::mouseReleaseEvent(event);
-  if (event->button() == Qt::LeftButton && pressed == SpotAt(event->position().toPoint())) Click(pressed);
+  const bool same = event->button() == Qt::LeftButton && pressed == SpotAt(event->position().toPoint());
+  if (check_.Active()) {
+    EndCheck(same || check_.CoversMore());
+  } else if (same) {
+    Click(pressed);
+  }
   sync_->Deliver();
 }
 
@@ -171,16 +188,46 @@ void TreeView::Click(const Spot& spot) {
   switch (spot.part) {
     case Part::None:
     case Part::Branch:
-    case Part::Label:
-      break;
     case Part::CheckBox:
-      sync_->NoteAction([node = spot.node](uiox::TreeWidget& tree) { uiox::user::Check(tree, node); });
+    case Part::Label:
       break;
     case Part::Cell:
     case Part::CellCheck:
       UseCell(Model().IndexOf(spot.node, spot.column));
       break;
   }
+}
+
+// --- Check boxes -----------------------------------------------------------------------------------------------------
+
+void TreeView::BeginCheck(NodeId node, bool range) {
+  const uiox::TreeStore& store = Tree()->Store();
+  if (!store.CheckSensitive(node)) return;
+  check_.Begin(node, store.CheckState(node) != 1);
+  if (range && Model().IndexOf(last_checked_).isValid()) check_.Cover(RowsBetween(last_checked_, node));
+  viewport()->update();
+}
+
+void TreeView::EndCheck(bool done) {
+  const CheckGesture ended = std::exchange(check_, CheckGesture());
+  viewport()->update();
+  if (!done) return;
+  last_checked_ = ended.First();
+  sync_->NoteAction([ended, rule = check_rule_](uiox::TreeWidget& tree) {
+    CheckTogether(tree, ended.Nodes(), ended.Checked(), rule);
+  });
+}
+
+/// Both ends included, in the order of the rows; nothing when one of them is not in sight.
+std::vector<NodeId> TreeView::RowsBetween(NodeId from, NodeId to) const {
+  for (const auto& [top, bottom] : {std::pair(from, to), std::pair(to, from)}) {
+    std::vector<NodeId> nodes;
+    for (QModelIndex index = Model().IndexOf(top); index.isValid(); index = indexBelow(index)) {
+      nodes.push_back(Model().NodeOf(index));
+      if (nodes.back() == bottom) return nodes;
+    }
+  }
+  return {};
 }
 
 void TreeView::UseCell(const QModelIndex& index) {
@@ -205,7 +252,26 @@ void TreeView::keyPressEvent(QKeyEvent* event) {
   sync_->Deliver();
 }
 
+bool TreeView::BeginsSearch(const QKeyEvent& event) const {
+  constexpr Qt::KeyboardModifiers kCommands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+  const QString text = event.text();
+  return search_ && !(event.modifiers() & kCommands) && !text.isEmpty() && text[0].isPrint() && !text[0].isSpace();
+}
+
+/// A key that begins a search is no shortcut of the window.
+bool TreeView::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride && BeginsSearch(*static_cast<QKeyEvent*>(event))) {
+    event->accept();
+    return true;
+  }
+  return QTreeView::event(event);
+}
+
 bool TreeView::UseKey(const QKeyEvent& event) {
+  if (BeginsSearch(event)) {
+    sync_->NoteAction([search = search_, text = event.text()](uiox::TreeWidget&) { search(text); });
+    return true;
+  }
   const QModelIndex current = currentIndex();
   if (!Tree() || !current.isValid()) return false;
   const bool control = event.modifiers().testFlag(Qt::ControlModifier);
@@ -222,6 +288,10 @@ bool TreeView::UseKey(const QKeyEvent& event) {
       return true;
     case Qt::Key_Left:
     case Qt::Key_Right:
+      if (event.key() == Qt::Key_Right && event.modifiers().testFlag(Qt::ShiftModifier) && current.column() == 0) {
+        ExpandBranch(Model().NodeOf(current));
+        return true;
+      }
       return control && StepColumn(current, event.key() == Qt::Key_Right ? 1 : -1);
     default:
       return false;
@@ -235,7 +305,17 @@ bool TreeView::UseSpace(const QModelIndex& current) {
   }
   if (!Tree()->Style().check_boxes) return false;
   const NodeId node = Model().NodeOf(current);
-  sync_->NoteAction([node](uiox::TreeWidget& tree) { uiox::user::Check(tree, node); });
+  sync_->NoteAction([node, rule = check_rule_](uiox::TreeWidget& tree) {
+    const uiox::TreeStore& store = tree.Store();
+    if (rule == CheckRule::WithSelection || !store.Has(node) || !store.IsSelected(node)) {
+      uiox::user::Check(tree, node);
+      return;
+    }
+    std::vector<NodeId> nodes = store.Selection();
+    std::erase(nodes, node);
+    nodes.insert(nodes.begin(), node);
+    CheckTogether(tree, nodes, store.CheckState(node) != 1, rule);
+  });
   return true;
 }
 

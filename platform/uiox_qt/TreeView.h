@@ -5,12 +5,15 @@
 
 #include <uiox/NodeId.h>
 #include <uiox/TreeWidget.h>
+#include <uiox_qt/CheckGesture.h>
 #include <uiox_qt/Export.h>
 #include <uiox_qt/TreeModel.h>
 
 #include <QTreeView>
 
+#include <functional>
 #include <memory>
+#include <vector>
 
 namespace uiox_qt {
 
@@ -41,6 +44,14 @@ class OXECAD_UIOX_QT_API TreeView final : public QTreeView {
   /// was before. The tree's expansion, checks and selection stay, and nothing is told to it.
   void SetFilter(TreeModel::Accepts accepts);
 
+  /// What a printable key other than the space bar does; it is given the key's text. Without one, keys are those of any
+  /// QTreeView, and "*" expands a branch.
+  void SetSearch(std::function<void(const QString& text)> search);
+
+  /// How the tree learns of boxes that were toggled at once, with the space bar on a selection, by a Shift-click or by
+  /// dragging over boxes.
+  void SetCheckRule(CheckRule rule) { check_rule_ = rule; }
+
   /// `kNoNode` where there is none.
   uiox::NodeId NodeAt(const QPoint& viewport_position) const;
   uiox::NodeId CurrentNode() const;
@@ -51,6 +62,7 @@ class OXECAD_UIOX_QT_API TreeView final : public QTreeView {
   QRect CheckBoxRect(const QModelIndex& index) const;
 
  protected:
+  bool event(QEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -81,13 +93,22 @@ class OXECAD_UIOX_QT_API TreeView final : public QTreeView {
   void Click(const Spot& spot);
   void UseCell(const QModelIndex& index);
   void Activate(uiox::NodeId node);
+  bool BeginsSearch(const QKeyEvent& event) const;
   bool UseKey(const QKeyEvent& event);
   bool UseSpace(const QModelIndex& current);
   bool StepColumn(const QModelIndex& current, int step);
   void ExpandBranch(uiox::NodeId node);
 
+  void BeginCheck(uiox::NodeId node, bool range);
+  void EndCheck(bool done);
+  std::vector<uiox::NodeId> RowsBetween(uiox::NodeId from, uiox::NodeId to) const;
+
+  CheckGesture check_;
+  CheckRule check_rule_ = CheckRule::OneByOne;
+  uiox::NodeId last_checked_ = uiox::kNoNode;  // where a range of boxes begins
   std::unique_ptr<Sync> sync_;
   Spot pressed_;
+  std::function<void(const QString&)> search_;
 };
 
 }  // namespace uiox_qt
