@@ -33,8 +33,7 @@ class TrackedIterator {
     ++*this;
     return before;
   }
-  friend bool operator==(const TrackedIterator& a, const TrackedIterator& b) { return a.at_ == b.at_; }
-  friend bool operator!=(const TrackedIterator& a, const TrackedIterator& b) { return a.at_ != b.at_; }
+  bool operator==(const TrackedIterator& other) const { return at_ == other.at_; }
 
  private:
   const char* at_;
