@@ -37,16 +37,26 @@ function(oxecad_suite_library name)
   target_compile_definitions(${name} PRIVATE OXECAD_PLATFORM_BUILD)
 endfunction()
 
-# oxecad_test(NAME SOURCES FILE... LIBRARIES TARGET... [PREFIX TEXT]): one test program; each of its cases is a test of
-# its own and runs in a process of its own.
+# oxecad_watch(TARGET): the program's cases run under strict mode of the stand-in toolkit (tests/support/StrictWatch.h).
+function(oxecad_watch target)
+  target_sources(${target} PRIVATE $<TARGET_OBJECTS:strict_watch>)
+  target_link_libraries(${target} PRIVATE uiox)
+endfunction()
+
+# oxecad_test(NAME SOURCES FILE... LIBRARIES TARGET... [PREFIX TEXT] [UNWATCHED]): one test program; each of its cases is
+# a test of its own and runs in a process of its own. Where components may meet the stand-in toolkit, strict mode
+# watches, but for UNWATCHED: a program that plays the toolkit's own part.
 function(oxecad_test name)
-  cmake_parse_arguments(arg "" "PREFIX" "SOURCES;LIBRARIES" ${ARGN})
+  cmake_parse_arguments(arg "UNWATCHED" "PREFIX" "SOURCES;LIBRARIES" ${ARGN})
   add_executable(${name} ${arg_SOURCES})
   oxecad_own(${name})
   # The tests' own code is compiled much more often than it is run.
   target_compile_options(${name} PRIVATE -O0)
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
   target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} GTest::gtest_main)
+  if(NOT arg_UNWATCHED AND arg_LIBRARIES MATCHES "test_support|oxecad::ui|viewer_(trees|app)")
+    oxecad_watch(${name})
+  endif()
   if(NOT arg_PREFIX)
     set(arg_PREFIX "${name}.")
   endif()

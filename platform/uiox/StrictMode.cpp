@@ -5,6 +5,8 @@
 #include <uiox/detail/StrictLedger.h>
 
 #include <algorithm>
+#include <optional>
+#include <set>
 
 namespace uiox {
 
@@ -42,6 +44,7 @@ std::string FaultText(const Call& call) {
 
 void AppendCallbacks(const Widget& widget, std::vector<std::string>& lines) {
   for (const Action& action : widget.Actions().All()) {
+    if (action.callback == &ui_exit_device) continue;
     const char* reason = CodeName(CodeGroup::Reason, action.reason);
     lines.push_back(std::string("callback ") + widget.Owner().Name() + ':' + widget.Name() + ' ' +
                     (reason ? reason : "?"));
@@ -55,6 +58,8 @@ struct StrictMode::Books : SuiteObserver {
   detail::StrictLedger ledger;
   detail::LentGuard lent;
   std::vector<std::string> expected;
+  std::vector<std::string> gone_with_reset;
+  std::set<std::string, std::less<>> shown;
   std::size_t faults = 0;
 
   void Fault(const std::string& what) {
@@ -62,9 +67,28 @@ struct StrictMode::Books : SuiteObserver {
     if (report) report(what);
   }
   void UserActed() override { lent.EndAll(); }
+  void AboutToDestroyDevice(Device& device) override { shown.erase(device.Name()); }
+
+  void NoteShown(const Call& call) {
+    if (call.function == Function::ManageDevice) shown.insert(call.device);
+    if (call.function == Function::UnmanageDevice) shown.erase(call.device);
+  }
+  /// Callbacks and devices that are left in the suite as it is.
+  void AppendLeftInSuite(std::vector<std::string>& lines) const {
+    for (const Device* device : Suite::Get().Devices()) {
+      AppendCallbacks(*device, lines);
+      for (const Widget* widget : device->Components()) {
+        AppendCallbacks(*widget, lines);
+        if (!widget->AsTree()) continue;
+        for (const Widget* control : widget->AsTree()->Controls()) AppendCallbacks(*control, lines);
+      }
+      if (device->OnScreen() && shown.count(device->Name()) != 0)
+        lines.push_back(std::string("device ") + device->Name());
+    }
+  }
 };
 
-StrictMode::StrictMode(Report report) : books_(std::make_unique<Books>()) {
+StrictMode::StrictMode(Report report) : books_(std::make_shared<Books>()), before_(g_current) {
   books_->report = std::move(report);
   Suite::Get().AddObserver(books_.get());
   g_current = this;
@@ -77,7 +101,7 @@ StrictMode::~StrictMode() {
   }
   for (const std::string& leftover : left) books_->Fault("left: " + leftover);
   Suite::Get().RemoveObserver(books_.get());
-  g_current = nullptr;
+  g_current = before_;
 }
 
 StrictMode* StrictMode::Current() { return g_current; }
@@ -87,28 +111,27 @@ void StrictMode::Expect(std::string leftover) { books_->expected.push_back(std::
 std::size_t StrictMode::Faults() const { return books_->faults; }
 
 std::vector<std::string> StrictMode::Leftovers() const {
-  std::vector<std::string> lines;
+  std::vector<std::string> lines = books_->gone_with_reset;
   books_->ledger.AppendLeft(lines);
-  for (const Device* device : Suite::Get().Devices()) {
-    AppendCallbacks(*device, lines);
-    for (const Widget* widget : device->Components()) {
-      AppendCallbacks(*widget, lines);
-      if (!widget->AsTree()) continue;
-      for (const Widget* control : widget->AsTree()->Controls()) AppendCallbacks(*control, lines);
-    }
-    if (device->OnScreen()) lines.push_back(std::string("device ") + device->Name());
-  }
+  books_->AppendLeftInSuite(lines);
   std::sort(lines.begin(), lines.end());
   return lines;
 }
 
+void StrictMode::BeforeReset() {
+  books_->AppendLeftInSuite(books_->gone_with_reset);
+  books_->lent.EndAll();
+}
+
 int StrictMode::Handle(Call& call, int (*answer)(Call&)) {
-  Books& books = *books_;
+  const std::shared_ptr<Books> kept = books_;  // a callback may end this object
+  Books& books = *kept;
   if (call.fault != Fault::None) {
     books.Fault(FaultText(call) + ": " + Describe(call));
     return answer(call);
   }
-  if (!detail::LentGuard::OnlyReads(call)) books.lent.Before(call);
+  std::optional<detail::LentGuard::ChangeScope> change;
+  if (!detail::LentGuard::OnlyReads(call)) change.emplace(books.lent, call);
   std::string wrong;
   if (call.function == Function::Free) wrong = books.ledger.Return(call);
   if (call.function == Function::ReleaseMemory) wrong = books.ledger.ReturnPixels(call);
@@ -118,6 +141,7 @@ int StrictMode::Handle(Call& call, int (*answer)(Call&)) {
   }
   const int result = answer(call);
   if (result != 0 || g_current != this) return result;
+  books.NoteShown(call);
   if (IsOperation(call, Operation::GetNode)) books.ledger.EnterCopies(call);
   if (LoadsImage(call)) books.ledger.EnterPixels(call);
   if (detail::LentGuard::OnlyReads(call)) books.lent.Replace(call);

@@ -13,8 +13,8 @@
 
 namespace uiox {
 
-/// While it lives, the built-in toolkit keeps books and lends nothing for longer than it promises. For tests; at most
-/// one at a time.
+/// While it lives, the built-in toolkit keeps books and lends nothing for longer than it promises. For tests. Of several
+/// the newest watches and the others rest.
 ///
 /// Faults, told at once:
 ///  - a list of codes that is wrong in itself: an unknown code, a missing end;
@@ -22,7 +22,9 @@ namespace uiox {
 ///    address, or a second time; a `relmem` of what is no pixel block. Such a release is refused and frees nothing.
 ///
 /// Leftovers, told at the end unless they are expected: copies and pixel blocks that were not released, callbacks that
-/// are still registered, devices that are still shown.
+/// are still registered (but for `ui_exit_device`, which is the toolkit's own), devices that a call has shown and none
+/// has hidden again. A `Suite::Reset` sets down those that it makes an end to; what a `Suite::DestroyDevice` ends is no
+/// leftover.
 ///
 /// Answers that stay the toolkit's are given as copies of its own, which are overwritten and freed as soon as they need
 /// not be good any more, so that a later look at them is found: texts and names at the next call that may change
@@ -52,10 +54,13 @@ class OXECAD_UIOX_API StrictMode {
   static StrictMode* Current();
   /// For the built-in toolkit: answers a call between the checks.
   int Handle(Call& call, int (*answer)(Call&));
+  /// For the suite: everything is about to go.
+  void BeforeReset();
 
  private:
   struct Books;
-  std::unique_ptr<Books> books_;
+  std::shared_ptr<Books> books_;
+  StrictMode* const before_;
 };
 
 }  // namespace uiox

@@ -1,3 +1,4 @@
+#include <uiox/StrictMode.h>
 #include <uiox/detail/LayoutRun.h>
 #include <uiox/detail/ResourceLoader.h>
 #include <uiox/detail/SuiteState.h>
@@ -167,6 +168,7 @@ bool Suite::IsObserver(const SuiteObserver* observer) const {
 }
 
 void Suite::Reset() {
+  if (StrictMode* strict = StrictMode::Current()) strict->BeforeReset();
   while (!state_->devices.empty()) DestroyDevice(std::string(state_->devices.back()->Name()));
   state_->resources.Clear();
   state_->images.Clear();

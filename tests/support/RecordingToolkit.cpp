@@ -49,6 +49,15 @@ int FailedResult(Function function) {
 
 std::string Text(const char* text) { return text ? text : ""; }
 
+/// Whether a call is the last that its caller can do about something: it is performed even where it says that it
+/// failed.
+bool IsLastWord(const uiox::Call& call) {
+  return call.function == Function::Free || call.function == Function::ReleaseMemory ||
+         call.function == Function::RemoveAction ||
+         (call.function == Function::DoOperation &&
+          call.code == static_cast<int>(oxecad_ui::toolkit::Operation::DestroyControl));
+}
+
 bool ChangesShape(const uiox::Call& call) {
   return call.function == Function::DoOperation && ((call.code >= 2029 && call.code <= 2032) || call.code == 2331);
 }
@@ -130,15 +139,13 @@ int RecordingToolkit::Release(uiox::Call& call) {
 }
 
 int RecordingToolkit::GoWrong(const uiox::Call& call) {
-  // A block that is released is gone for the caller, who cannot do more than try.
-  if (call.function == Function::Free) {
+  if (IsLastWord(call)) {
     uiox::Call copy = call;
-    Release(copy);
-    return failure_ == Failure::Refused || failure_ == Failure::Scribbled ? 1 : 0;
-  }
-  if (call.function == Function::ReleaseMemory) {
-    uiox::Call copy = call;
-    Answer(copy);
+    if (call.function == Function::Free) {
+      Release(copy);
+    } else {
+      Answer(copy);
+    }
     return failure_ == Failure::Refused || failure_ == Failure::Scribbled ? 1 : 0;
   }
   switch (failure_) {

@@ -1,5 +1,7 @@
+#include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 #include <tests/support/RecordingToolkit.h>
+#include <tests/support/TreeDrawing.h>
 #include <uicomps/toolkit/Toolkit.h>
 
 #include <cstdint>
@@ -154,6 +156,92 @@ TEST(RecordingToolkit, WritesDeviceCalls) {
     activate_device "r" => 4
     exit_device "r" 3
     beep)"));
+}
+
+class InFrontOfTheStandIn : public testing::Test {
+ protected:
+  InFrontOfTheStandIn() {
+    uiox::Suite::Get().Reset();
+    Plant(uiox::Suite::Get().ObtainTree("dev", "tree"), "root\n  a \"A\"\n  b");
+  }
+  RecordingToolkit toolkit{RecordingToolkit::StandIn};
+};
+
+TEST_F(InFrontOfTheStandIn, HandsCallsOnAndWritesTheAnswers) {
+  const wchar_t* label = nullptr;
+  int count = 0;
+  char** names = nullptr;
+  EXPECT_EQ(ui_do_operation("dev", "tree", 2202, "a", 2, &label, kEnd), 0);
+  ui_free(2, &label, kEnd);
+  EXPECT_EQ(ui_do_operation("dev", "tree", 2202, "root", 284, &count, &names, kEnd), 0);
+  ui_free(284, Slot(count), &names, kEnd);
+  EXPECT_NE(ui_do_operation("dev", "tree", 2031, "nowhere", kEnd), 0);
+  const std::vector<std::string> lines = toolkit.TakeLines();
+  ASSERT_EQ(lines.size(), 5u);
+  EXPECT_EQ(lines[0], R"(do dev:tree 2202 GetNode "a" | 2->L"A" | 0)");
+  EXPECT_EQ(lines[1], R"(free 2 L"A" | 0)");
+  EXPECT_EQ(lines[3], R"(free 284 ["a" "b"] | 0)");
+  EXPECT_EQ(lines[4].find(R"(do dev:tree 2031 DeleteNode "nowhere" | 0 => )"), 0u);
+}
+
+TEST_F(InFrontOfTheStandIn, ChecksReleasesOfWhatTheStandInGave) {
+  const char* type = nullptr;
+  ui_do_operation("dev", "tree", 2202, "a", 282, &type, kEnd);
+  EXPECT_EQ(toolkit.TakeComplaints(), std::vector<std::string>{"never released: attribute 282 of \"a\""});
+  ui_free(282, &type, kEnd);
+  EXPECT_TRUE(toolkit.TakeComplaints().empty());
+}
+
+TEST_F(InFrontOfTheStandIn, KeepsAFailedCallFromIt) {
+  toolkit.FailCall(1, Failure::Refused);
+  EXPECT_EQ(ui_do_operation("dev", "tree", 2031, "a", kEnd), 1);
+  toolkit.FailCall(1, Failure::Ignored);
+  EXPECT_EQ(ui_do_operation("dev", "tree", 2031, "a", kEnd), 0);
+  EXPECT_EQ(Drawn(uiox::Suite::Get().ObtainTree("dev", "tree"), kNothingMore), "root\n  a \"A\"\n  b");
+  toolkit.When(Doing(2031)).Refuse(9);
+  EXPECT_EQ(ui_do_operation("dev", "tree", 2031, "a", kEnd), 9) << "a rule comes first";
+}
+
+TEST(ForEachFailure, RunsOnceWellAndThenOnceForEachCallAndWay) {
+  int runs = 0;
+  int failures = 0;
+  ForEachFailure(
+      RecordingToolkit::Nobody, [](RecordingToolkit& toolkit) { toolkit.When(Retrieving(54)).Give(54, "root"); },
+      [&](RecordingToolkit&) {
+        ++runs;
+        const char* root = nullptr;
+        if (ui_retrieve("dev", "tree", 54, &root, kEnd) != 0 || !root) ++failures;
+        if (ui_manage_device("dev") != 0) ++failures;
+      });
+  EXPECT_EQ(runs, 1 + 2 * 5);
+  EXPECT_EQ(failures, 5 + 2) << "each way is a failure of the reading call, two are of the other";
+}
+
+TEST(RecordingToolkit, FailsTheTestThatKeepsWhatWasHandedOut) {
+  EXPECT_NONFATAL_FAILURE(
+      {
+        RecordingToolkit toolkit;
+        toolkit.When(Doing(2202)).Give(282, "net");
+        const char* type = nullptr;
+        ui_do_operation("dev", "tree", 2202, "n", 282, &type, kEnd);
+      },
+      "never released: attribute 282 of \"n\"");
+}
+
+TEST(RecordingToolkit, ShowsTheNamesOfOptionsWhereLinesPart) {
+  RecordingToolkit toolkit;
+  ui_modify("dev", "tree", 5, Slot(1), kEnd);
+  const testing::AssertionResult took = toolkit.Took("modify dev:tree | 5=0 | 0");
+  EXPECT_FALSE(took);
+  EXPECT_NE(std::string(took.message()).find("modify dev:tree | 5.Sensitive=1 | 0"), std::string::npos)
+      << took.message();
+}
+
+TEST(RecordingToolkit, WritesACallThatACallbackMakesBehindTheOneThatCalledBack) {
+  RecordingToolkit toolkit;
+  toolkit.When(Calling(uiox::Function::ActivateDevice)).Run([](const uiox::Call&) { ui_beep(); }).Result(3);
+  EXPECT_EQ(ui_activate_device("dlg"), 3);
+  EXPECT_TRUE(toolkit.Took("activate_device \"dlg\" => 3\nbeep"));
 }
 
 TEST(RecordingToolkit, ComparesLinesWithGapsAllowed) {

@@ -1,3 +1,4 @@
+#include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 #include <tests/support/Quoted.h>
 #include <tests/support/Soundness.h>
@@ -57,6 +58,12 @@ TEST_F(TreeDrawing, GrowsBelowANodeThatIsThere) {
   Plant(widget, "root\n  a");
   Plant(widget, "a\n  a1");
   EXPECT_EQ(Drawn(widget, kNothingMore), "root\n  a\n    a1");
+}
+
+TEST_F(TreeDrawing, ThatCannotBePlantedFailsTheTest) {
+  EXPECT_NONFATAL_FAILURE(Plant(widget, "root\n  a\n  a"), "cannot be planted: a");
+  EXPECT_NONFATAL_FAILURE(Plant(widget, "root\n  b nonsense"), "cannot be planted: b nonsense");
+  EXPECT_NONFATAL_FAILURE(Plant(widget, "root\n  c nocolumn:\"x\""), "cannot be planted");
 }
 
 TEST(Quoted, WritesUtf16AsUtf8AndReadsItBack) {

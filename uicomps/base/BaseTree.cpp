@@ -70,9 +70,10 @@ void BaseTree::ExpandAll() const {
 
 void BaseTree::CollapseAll() const {
   const wire::Widget tree = WidgetOf(*this);
-  if (const char* root = wire::RootNode(tree)) {
-    wire::CollapseNode(tree, root);
-    wire::ExpandNode(tree, root, wire::ExpandDepth::Node);
+  if (const char* name = wire::RootNode(tree)) {
+    const std::string root = name;  // the toolkit's own name is good until the first of the two changes
+    wire::CollapseNode(tree, root.c_str());
+    wire::ExpandNode(tree, root.c_str(), wire::ExpandDepth::Node);
   }
 }
 

@@ -129,11 +129,33 @@ bool LentGuard::IsOver(const Loan& loan, const Call& change) {
   return change.function == Function::DoOperation && ChangesBelow(change, tree->Store(), node);
 }
 
-void LentGuard::Before(const Call& change) {
-  const auto over =
-      std::partition(loans_.begin(), loans_.end(), [&](const Loan& loan) { return !IsOver(loan, change); });
+bool LentGuard::IsArgument(const Loan& loan, const Call& call) {
+  const auto begin = reinterpret_cast<std::intptr_t>(loan.block);
+  const auto holds = [&](Slot slot) {
+    return slot.word >= begin && slot.word < begin + static_cast<std::intptr_t>(loan.bytes);
+  };
+  return std::any_of(call.positional, call.positional + call.positional_count, holds) ||
+         std::any_of(call.begin(), call.end(), [&](const Option& o) { return holds(o.value) || holds(o.array); });
+}
+
+template <class Predicate>
+void LentGuard::EndIf(Predicate is_over) {
+  const auto over = std::partition(loans_.begin(), loans_.end(), [&](const Loan& loan) { return !is_over(loan); });
   std::for_each(over, loans_.end(), End);
   loans_.erase(over, loans_.end());
+}
+
+LentGuard::ChangeScope::ChangeScope(LentGuard& guard, const Call& change)
+    : guard_(guard), deferred_(++guard.last_change_) {
+  std::vector<Loan>& loans = guard.loans_;
+  for (Loan& loan : loans) {
+    if (loan.ends_with == 0 && IsArgument(loan, change) && IsOver(loan, change)) loan.ends_with = deferred_;
+  }
+  guard.EndIf([&](const Loan& loan) { return loan.ends_with == 0 && IsOver(loan, change); });
+}
+
+LentGuard::ChangeScope::~ChangeScope() {
+  guard_.EndIf([this](const Loan& loan) { return loan.ends_with == deferred_; });
 }
 
 void LentGuard::Replace(const Call& call) {
@@ -181,7 +203,7 @@ void LentGuard::LendList(const Call& call, const Option& option) {
 }
 
 void LentGuard::Lend(const Call& call, void* block, std::size_t bytes, Until until) {
-  Loan loan{block, bytes, until, {}, {}, {}};
+  Loan loan{block, bytes, until, {}, {}, {}, 0};
   if (until != Until::AnyChange) {
     loan.device = call.device;
     loan.tree = call.component;

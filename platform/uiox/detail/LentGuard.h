@@ -7,6 +7,7 @@
 #include <uiox/Suite.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -22,8 +23,19 @@ class LentGuard {
 
   /// Whether a call only reads, so that every answer stays good.
   static bool OnlyReads(const Call& call);
-  /// Before a call that may change something.
-  void Before(const Call& change);
+  /// Around a call that may change something. What the caller hands back as an argument is good until the call is over,
+  /// everything else that the call may take away ends before it.
+  class ChangeScope {
+   public:
+    ChangeScope(LentGuard& guard, const Call& change);
+    ~ChangeScope();
+    ChangeScope(const ChangeScope&) = delete;
+    ChangeScope& operator=(const ChangeScope&) = delete;
+
+   private:
+    LentGuard& guard_;
+    const std::uint64_t deferred_;
+  };
   /// After a successful call: replaces what it answered.
   void Replace(const Call& call);
   /// All of them, as when the user does something.
@@ -38,15 +50,21 @@ class LentGuard {
     std::string device;
     std::string tree;
     std::string node;
+    std::uint64_t ends_with = 0;  // the call under way that it was given to; 0: none
   };
 
+  static bool IsArgument(const Loan& loan, const Call& call);
   static bool IsOver(const Loan& loan, const Call& change);
   void LendText(const Call& call, const Option& option, std::size_t unit);
   void LendList(const Call& call, const Option& option);
   void Lend(const Call& call, void* block, std::size_t bytes, Until until);
   static void End(Loan& loan) noexcept;
+  /// Ends those that a predicate accepts.
+  template <class Predicate>
+  void EndIf(Predicate is_over);
 
   std::vector<Loan> loans_;
+  std::uint64_t last_change_ = 0;
 };
 
 }  // namespace uiox::detail

@@ -139,6 +139,37 @@ TEST_F(Strict, TheSelectionIsGoodUntilItChanges) {
   EXPECT_STREQ(names[1], "m");
 }
 
+TEST_F(Strict, AnArgumentIsGoodUntilItsCallIsOver) {
+  const char* root = nullptr;
+  Retrieve("tree", 54, &root);
+  EXPECT_EQ(Do(2031, root), 0) << "the name of the root is read before the root goes";
+  EXPECT_EQ(store.Size(), 0u);
+}
+
+TEST_F(Strict, AResetSetsDownWhatItEnds) {
+  ui_add_action("dev", "tree", 4, Nothing, nullptr, kEnd);
+  ui_manage_device("dev");
+  suite.Reset();
+  EXPECT_EQ(End(), (Lines{"left: callback dev:tree Activate", "left: device dev"}));
+}
+
+TEST_F(Strict, WhatTheToolkitHasToItselfIsNotLeft) {
+  ui_set_action("dev", "tree", 4, ui_exit_device, const_cast<char*>("dev"), Slot(1));
+  suite.FindDevice("dev")->Show();
+  EXPECT_EQ(End(), Lines{}) << "its own callback, and a device that no call has shown";
+}
+
+TEST_F(Strict, TheNewestWatches) {
+  Lines inner;
+  {
+    const StrictMode newest([&](const std::string& line) { inner.push_back(line); });
+    Do(2222, "n");
+  }
+  Do(2201, "n", 999, 1);
+  EXPECT_EQ(inner.size(), 1u);
+  EXPECT_EQ(told.size(), 1u);
+}
+
 #ifdef __SANITIZE_ADDRESS__
 TEST_F(Strict, ALookAfterTheEndIsFound) {
   const wchar_t* label = nullptr;

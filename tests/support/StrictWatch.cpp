@@ -1,0 +1,49 @@
+#include <gtest/gtest.h>
+#include <tests/support/StrictWatch.h>
+
+#include <algorithm>
+#include <memory>
+#include <vector>
+
+namespace test_support {
+namespace {
+
+class Listener : public testing::EmptyTestEventListener {
+ public:
+  static Listener& Get() {
+    static Listener& listener = *new Listener;
+    return listener;
+  }
+
+  void OnTestStart(const testing::TestInfo&) override {
+    strict_ = std::make_unique<uiox::StrictMode>([this](const std::string& line) { Tell(line); });
+  }
+  void OnTestEnd(const testing::TestInfo&) override {
+    strict_.reset();
+    allowed_.clear();
+  }
+
+  void Expect(std::string leftover) { strict_->Expect(std::move(leftover)); }
+  void Allow(std::string beginning) { allowed_.push_back(std::move(beginning)); }
+
+ private:
+  void Tell(const std::string& line) {
+    const bool allowed = std::any_of(allowed_.begin(), allowed_.end(), [&](const std::string& beginning) {
+      return line.compare(0, beginning.size(), beginning) == 0;
+    });
+    if (!allowed) ADD_FAILURE() << "strict mode: " << line;
+  }
+
+  std::unique_ptr<uiox::StrictMode> strict_;
+  std::vector<std::string> allowed_;
+};
+
+// The program's object files are linked whole, so that nobody has to call this.
+const bool g_listens = (testing::UnitTest::GetInstance()->listeners().Append(&Listener::Get()), true);
+
+}  // namespace
+
+void StrictWatch::Expect(std::string leftover) { Listener::Get().Expect(std::move(leftover)); }
+void StrictWatch::Allow(std::string beginning) { Listener::Get().Allow(std::move(beginning)); }
+
+}  // namespace test_support
