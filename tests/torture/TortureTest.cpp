@@ -1,0 +1,162 @@
+// Every call to the toolkit fails in turn, in every way, once and from then on; then every allocation.
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <tests/torture/Scenarios.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <iostream>
+#include <sstream>
+
+namespace torture {
+
+std::vector<Scenario> AllScenarios() {
+  std::vector<Scenario> all;
+  for (const auto& family : {BaseTreeScenarios(), TreeScenarios(), ColorScenarios(), CompareScenarios(),
+                             UserDataScenarios(), DialogScenarios()}) {
+    all.insert(all.end(), family.begin(), family.end());
+  }
+  return all;
+}
+
+namespace {
+
+constexpr int kMostFailures = 5;
+/// Ways of a call to fail, each once and from then on.
+constexpr int kCallWays = 2 * static_cast<int>(std::size(test_support::kAllFailures));
+constexpr int kAllocationWays = 2;
+
+bool AllInjections() {
+  const char* wanted = std::getenv("OXECAD_LONG_TESTS");
+  return wanted && *wanted && std::string(wanted) != "0";
+}
+/// Of ten injections in a row one is made, unless all are wanted; every way comes round.
+bool IsWanted(long at, int way) { return AllInjections() || (at + way) % 10 == 0; }
+
+struct Totals {
+  long calls = 0;
+  long allocations = 0;
+  long Injections() const { return calls * kCallWays + allocations * kAllocationWays; }
+};
+
+/// Runs a scenario in a process of its own; gives what it wrote.
+std::vector<std::string> InChild(const std::function<std::vector<std::string>()>& run) {
+  int ends[2];
+  if (pipe(ends) != 0) return {"there is no pipe"};
+  std::cout.flush();
+  const pid_t child = fork();
+  if (child < 0) return {"there is no process"};
+  if (child == 0) {
+    close(ends[0]);
+    std::string text;
+    for (const std::string& line : run()) text += line + '\n';
+    const bool written = write(ends[1], text.data(), text.size()) == static_cast<ssize_t>(text.size());
+    _exit(written ? 0 : 1);
+  }
+  close(ends[1]);
+  std::string text;
+  char buffer[4096];
+  for (ssize_t got; (got = read(ends[0], buffer, sizeof buffer)) > 0;)
+    text.append(buffer, static_cast<std::size_t>(got));
+  close(ends[0]);
+  int status = 0;
+  waitpid(child, &status, 0);
+  std::vector<std::string> lines;
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t end = text.find('\n', at);
+    lines.push_back(text.substr(at, end - at));
+    at = end + 1;
+  }
+  if (status != 0) lines.push_back("the process ended with status " + std::to_string(status));
+  return lines;
+}
+
+class Torture : public testing::TestWithParam<Scenario> {
+ protected:
+  std::vector<std::string> Play(const Injection& injection) {
+    Stage stage(injection, records_);
+    GetParam().play(stage);
+    if (injection.at == 0) totals_ = {stage.Calls(), Allocations::Count()};
+    if (injection.at != 0 && injection.kind == Injection::Call && !stage.HasHit()) {
+      stage.Complain("the call was not reached");
+    }
+    return stage.Finish();
+  }
+  /// The undisturbed run. What another process found out comes back as lines of its own.
+  std::vector<std::string> PlayUndisturbed() {
+    if (!GetParam().in_fresh_process) return Play({});
+    std::vector<std::string> complaints;
+    for (const std::string& line : InChild([&] { return Reported(Play({})); })) {
+      std::istringstream words(line);
+      std::string kind;
+      StepRecord record;
+      words >> kind;
+      if (kind == "total") {
+        words >> totals_.calls >> totals_.allocations;
+      } else if (kind == "step") {
+        words >> record.calls;
+        std::getline(words >> std::ws, record.result);
+        records_.push_back(record);
+      } else {
+        complaints.push_back(line);
+      }
+    }
+    return complaints;
+  }
+  std::vector<std::string> Reported(std::vector<std::string> lines) const {
+    for (const StepRecord& record : records_)
+      lines.push_back("step " + std::to_string(record.calls) + ' ' + record.result);
+    lines.push_back("total " + std::to_string(totals_.calls) + ' ' + std::to_string(totals_.allocations));
+    return lines;
+  }
+
+  void Note(const Injection& injection, const std::vector<std::string>& complaints) {
+    for (const std::string& line : complaints) {
+      ADD_FAILURE() << Text(injection) << ": " << line;
+      ++failures_;
+    }
+  }
+  void Run(const Injection& injection) {
+    ++runs_;
+    Note(injection, GetParam().in_fresh_process ? InChild([&] { return Play(injection); }) : Play(injection));
+  }
+
+  void FailCalls() {
+    for (long at = 1; at <= totals_.calls; ++at) {
+      for (int way = 0; way < kCallWays && failures_ < kMostFailures; ++way) {
+        if (IsWanted(at, way)) Run({Injection::Call, at, test_support::kAllFailures[way / 2], way % 2 == 1});
+      }
+    }
+  }
+  void FailAllocations() {
+    for (long at = 1; at <= totals_.allocations; ++at) {
+      for (int way = 0; way < kAllocationWays && failures_ < kMostFailures; ++way) {
+        if (IsWanted(at, way * 5)) Run({Injection::Allocation, at, {}, way == 1});
+      }
+    }
+  }
+
+  std::vector<StepRecord> records_;
+  Totals totals_;
+  int failures_ = 0;
+  long runs_ = 0;
+};
+
+TEST_P(Torture, LosesLeaksAndHangsNothing) {
+  Note({}, PlayUndisturbed());
+  ASSERT_EQ(failures_, 0);
+  ASSERT_GT(totals_.calls + totals_.allocations, 0);
+  FailCalls();
+  FailAllocations();
+  std::cout << runs_ << " of " << totals_.Injections() << " injections (" << totals_.calls << " calls, "
+            << totals_.allocations << " allocations)\n";
+}
+
+std::string NameOf(const testing::TestParamInfo<Scenario>& info) { return info.param.name; }
+INSTANTIATE_TEST_SUITE_P(Scenario, Torture, testing::ValuesIn(AllScenarios()), NameOf);
+
+}  // namespace
+}  // namespace torture
