@@ -18,4 +18,5 @@ int main() {
   constexpr std::intptr_t kEnd = 0;  // a list of the toolkit ends with a 0 as wide as a pointer
   ui_add_action("rules", "ok", activate, OnOk, nullptr, kEnd);
   ui_activate_device("rules");
+  return 0;
 }

@@ -31,4 +31,5 @@ int main() {
   std::printf("%s lies in %s\n", "In1.Cu", layers.GetParent("In1.Cu").c_str());
 
   ui_activate_device("board");  // the toolkit runs the dialog until the user closes it
+  return 0;
 }

@@ -19,4 +19,5 @@ int main() {
     std::printf("%s is 0x%06x\n", icon.c_str(), bag.GetColorFromIcon(icon.c_str(), "color_square.png"));
   }
   ui_activate_device("board");
+  return 0;
 }

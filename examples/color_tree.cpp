@@ -45,4 +45,5 @@ int main() {
   for (const char* node : {"power/VCC", "power", "root"}) Print(nets, node);
 
   ui_activate_device("board");
+  return 0;
 }

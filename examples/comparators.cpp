@@ -37,4 +37,5 @@ int main() {
   Show(tree, "ecad", L"As names of a design", CAlphaNumericWStringEcadComparator());
   Show(tree, "own", L"Upper case first", CaseSensitive());
   ui_activate_device("board");
+  return 0;
 }

@@ -42,4 +42,5 @@ int main() {
                 static_cast<int>(net.showMode));
   }
   ui_activate_device("board");
+  return 0;
 }

@@ -35,4 +35,5 @@ int main() {
   std::printf("%ls\n", static_cast<Part*>(tree.GetNodeData("R2"))->value);
   std::printf("%s\n", tree.GetNodeData("SelAll_parts") == nullptr ? "a heading has no object" : "?");
   ui_activate_device("board");
+  return 0;
 }

@@ -34,4 +34,5 @@ int main() {
 
   ui_activate_device("rules");
   verifier.Clear();  // before the verifier goes: its callbacks would stay
+  return 0;
 }

@@ -21,4 +21,5 @@ int main() {
   std::printf("%s\n", oxecad_ui::IsAddToHighlightsDefaultAction() ? "adds to the highlighted nets"
                                                                   : "replaces the highlighted nets");
   ui_activate_device("board");
+  return 0;
 }

@@ -13,4 +13,5 @@ int main() {
 
   dialog.SetNewName(L"VDD");
   if (dialog.Run()) std::printf("renamed to %s\n", oxecadutils::WideStrToUtf8(dialog.GetNewName()).c_str());
+  return 0;
 }

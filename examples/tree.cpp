@@ -36,4 +36,5 @@ int main() {
   OnDirty(&nets, nullptr);
 
   ui_activate_device("board");
+  return 0;
 }

@@ -52,4 +52,5 @@ int main() {
   parts.GetData(data, nullptr, true, LeavesOnly());
   std::printf("%zu objects\n", data.size());
   ui_activate_device("board");
+  return 0;
 }

@@ -117,6 +117,7 @@ void WritePage(std::ostream& out) {
 }
 
 void WriteEnumerators(const Table& table, std::ostream& out) {
+  out << "/// " << table.title << "; see \\ref toolkit_codes.\n";
   out << "enum class " << table.constants << " : int {\n";
   for (const Row& row : table.rows) {
     out << "  " << row.name << " = " << row.code << ",  ///< " << row.meaning << "\n";
@@ -136,6 +137,8 @@ int WriteHeader(const char* file, std::ostream& out) {
     for (const Table& table : Tables()) {
       if (line.rfind("enum class " + table.constants + " :", 0) == 0) found = &table;
     }
+    const bool makes_constants = line.find("_CONSTANT") != std::string::npos;  // spelled out below
+    if (makes_constants && found == nullptr) continue;
     if (found != nullptr) {
       WriteEnumerators(*found, out);
       ++spelled_out;

@@ -29,6 +29,9 @@ QImage PaintScreen() {
     windows.append(window);
     all |= window->geometry();
   }
+  // What runs in front of everything is painted last.
+  QWidget* const front = QApplication::activeModalWidget();
+  if (windows.removeOne(front)) windows.append(front);
   all.adjust(-kMargin, -kMargin, kMargin, kMargin);
   QImage picture(all.size(), QImage::Format_RGB32);
   picture.fill(QColor(0xD8, 0xDC, 0xE0));
@@ -64,7 +67,11 @@ class User {
     looks_ = 0;
     if (pressesDefault_) {
       pressesDefault_ = false;
-      uiox::user::PressDefault(*device);
+      // In an event of its own: while this one lasts, the timer would rest in the dialog that opens.
+      QTimer::singleShot(0, [name = device->Name()] {
+        uiox::Device* const pressed = uiox::Suite::Get().FindDevice(name);
+        if (pressed != nullptr) uiox::user::PressDefault(*pressed);
+      });
       return;
     }
     if (!painted_) painted_ = PaintScreen().save(QString::fromLocal8Bit(file_));

@@ -32,6 +32,7 @@ class OXECAD_UI_EXPORT BaseTree : public Component {
   /// it null for the end, and gives true; gives false to decline. The array is good during the call only.
   using Placer = bool (*)(const char* name, int count, const char** children, const char*& before);
 
+  /// Names the tree, as `Component` does; calls nothing.
   BaseTree(const char* device, const char* name);
   BaseTree(const BaseTree&) = default;
   BaseTree& operator=(const BaseTree&) = default;
@@ -85,19 +86,23 @@ class OXECAD_UI_EXPORT BaseTree : public Component {
   bool DeleteNode(const char* node) const;
   /// Moves a node with its subtree under `parent`, before the sibling `before`; null means the end.
   bool MoveNodeBefore(const char* node, const char* parent, const char* before) const;
+  /// Gives a node another label, which the toolkit copies.
   bool ModifyNodeLabel(const char* node, const wchar_t* label) const;
 
   /// The label as it was set, markup included.
   std::wstring GetNodeLabel(const char* node) const;
+  /// The name of the node's type, by which the toolkit chooses its icon.
   std::string GetNodeType(const char* node) const;
   /// The parent's name, empty at the root. The toolkit's result goes to `status` when that is not null.
   std::string GetParent(const char* node, int* status = nullptr) const;
+  /// The number of a node's children, without those further down. Constant time.
   int GetNodeChildCount(const char* node) const;
   /// Lends the children's names: the array is the toolkit's and good until the next change below the node. On failure
   /// `count` is 0 and `children` null.
   bool GetNodeChildren(const char* node, int* count, char*** children) const;
   /// Reads the application's pointer; `data` is written on success only.
   bool GetNodeData(const char* node, void*& data) const;
+  /// Whether the node's children are shown; false when it cannot be read.
   bool GetNodeExpanded(const char* node) const;
   /// Whether `parent` has no child of that name; also true when its children cannot be read. Linear in their number.
   bool DoesNotExist(const char* parent, const char* name) const;

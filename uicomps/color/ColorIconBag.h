@@ -23,6 +23,7 @@ namespace oxecad_ui {
 /// thread.
 class OXECAD_UI_EXPORT ColorIconBag {
  public:
+  /// The bag of the process, made at the first call.
   static ColorIconBag& Get();
   ColorIconBag(const ColorIconBag&) = delete;
   ColorIconBag& operator=(const ColorIconBag&) = delete;

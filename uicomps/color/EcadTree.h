@@ -17,6 +17,7 @@ namespace oxecad_ui {
 /// activated, 2 selection set changed.
 class OXECAD_UI_EXPORT EcadTree : public Tree {
  public:
+  /// Names the tree, as `Component` does; calls nothing.
   EcadTree(const char* device, const char* name);
   EcadTree(const EcadTree&) = default;
   EcadTree& operator=(const EcadTree&) = default;

@@ -20,8 +20,10 @@ struct BalloonMessage {
   void* style = nullptr;           ///< the skin's style, found while the balloon is placed
 };
 
+/// Which sign a balloon bears.
 enum BalloonType : int { BalloonError = 0, BalloonWarning = 1, BalloonInfo = 2, BalloonQuestion = 3 };
 
+/// The buttons of a balloon, from left to right; bits that can be combined.
 enum BalloonButton : unsigned int {
   BalloonAbort = 1,
   BalloonRetry = 2,

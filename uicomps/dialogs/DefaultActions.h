@@ -13,11 +13,15 @@ OXECAD_UI_EXPORT const char* GetHighlightDefaultAction();
 /// Stores "add_highlight" when given that exact word and "highlight" for any other; saves and applies the preferences.
 /// The action must not be null.
 OXECAD_UI_EXPORT void SetHighlightDefaultAction(const char* action);
+/// Whether highlighting adds to what is highlighted.
 OXECAD_UI_EXPORT bool IsAddToHighlightsDefaultAction();
 
-/// The same for isolating, with "isolate" and "add_isolate".
+/// "isolate", or "add_isolate" when that exact word is stored. The text is a constant of the library.
 OXECAD_UI_EXPORT const char* GetIsolateDefaultAction();
+/// Stores "add_isolate" when given that exact word and "isolate" for any other; saves and applies the preferences. The
+/// action must not be null.
 OXECAD_UI_EXPORT void SetIsolateDefaultAction(const char* action);
+/// Whether isolating adds to what is isolated.
 OXECAD_UI_EXPORT bool IsAddToIsolatesDefaultAction();
 
 }  // namespace oxecad_ui

@@ -37,6 +37,7 @@ class OXECAD_UI_EXPORT NumericInputTest : public InputTest {
   NumericInputTest& operator=(const NumericInputTest&) = default;
   ~NumericInputTest() override;
 
+  /// Whether the text is a number, or one may still come of it (see above).
   bool CanBeAPartOfValidInput(const wchar_t* text) const override;
   /// Writes numbers with six significant digits, in the shorter of the fixed and the exponent form.
   bool GetValidInput(const wchar_t* text, std::wstring& out) const override;
@@ -45,9 +46,9 @@ class OXECAD_UI_EXPORT NumericInputTest : public InputTest {
   /// Reads a text that is one number and nothing behind it; leading blanks are passed over.
   bool GetInput(const wchar_t* text, T& value) const;
 
-  T m_min;
-  T m_max;
-  bool m_allowEmpty;
+  T m_min;            ///< the lowest valid number
+  T m_max;            ///< the highest valid number
+  bool m_allowEmpty;  ///< whether the field may be empty
 
  private:
   bool HoldsZero() const { return m_min <= 0 && m_max >= 0; }

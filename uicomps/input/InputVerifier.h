@@ -22,7 +22,9 @@ namespace oxecad_ui {
 /// no callbacks of its own.
 class OXECAD_UI_EXPORT InputVerifier {
  public:
+  /// Has no dialog yet: see `SetDev`.
   InputVerifier();
+  /// Names the dialog that holds the fields; calls nothing.
   explicit InputVerifier(const char* device);
   InputVerifier(const InputVerifier&) = default;
   InputVerifier& operator=(const InputVerifier&) = default;
@@ -35,15 +37,18 @@ class OXECAD_UI_EXPORT InputVerifier {
   /// read, is of another class, or refuses a callback; callbacks that it had accepted before stay then. The test must
   /// not be empty.
   bool AddControl(const char* name, const oxkutils::SmartPtr<InputTest>& test);
+  /// Stops to watch a field; one that is not watched is passed over.
   void RemoveControl(const char* name);
   /// Stops to watch all fields.
   void Clear();
   /// The test of a field; empty when the field is not watched.
   oxkutils::SmartPtr<InputTest> GetInputTest(const char* name) const;
 
-  /// The toolkit's callbacks, with the index of a field. Each gives 0.
+  /// The toolkit's callback for a changed text, with the index of a field. Gives 0.
   static int InputCB(InputVerifier* self, void* index);
+  /// The same for a field that gained the focus.
   static int FocusInCB(InputVerifier* self, void* index);
+  /// The same for a field that lost it.
   static int FocusOutCB(InputVerifier* self, void* index);
 
  private:

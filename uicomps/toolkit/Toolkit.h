@@ -202,8 +202,9 @@ enum class GlobalCode : int { OXECAD_UI_GLOBAL_CODES(OXECAD_UI_CONSTANT) };
 #undef OXECAD_UI_OPERATION_CONSTANT
 #undef OXECAD_UI_CONSTANT
 
-/// The first argument of `ui_create_search_path`, and the id that says there is no path.
+/// The first argument of `ui_create_search_path`.
 constexpr int kResourceSearchPath = 1;
+/// The id that says there is no path.
 constexpr int kNoSearchPath = -1;
 
 /// `MoveAndResize`: keep the width or height that is there.
@@ -219,8 +220,8 @@ struct ImageBuffer {
   std::int32_t kind = 0;    ///< `kPixelImage`, set by the caller before a load
   std::int32_t width = 0;   ///< in pixels
   std::int32_t height = 0;  ///< in pixels
-  std::int32_t reserved[3] = {0, 0, 0};
-  unsigned char* pixels = nullptr;
+  std::int32_t reserved[3] = {0, 0, 0};  ///< the toolkit's
+  unsigned char* pixels = nullptr;       ///< red, green, blue and opacity of each
 };
 static_assert(offsetof(ImageBuffer, width) == 4 && offsetof(ImageBuffer, height) == 8, "the toolkit fixes the layout");
 static_assert(offsetof(ImageBuffer, pixels) == 24, "the toolkit fixes the layout");
@@ -230,11 +231,11 @@ constexpr std::int32_t kPixelImage = 23;
 
 /// The record of `DefineNodeType`: nine pointer-sized slots.
 struct NodeTypeRecord {
-  const char* name = nullptr;
-  const void* unused1to3[3] = {nullptr, nullptr, nullptr};
-  const char* image = nullptr;         ///< image of a node of the type
-  const char* expandedImage = nullptr; ///< image of such a node while it is expanded
-  const void* unused6to8[3] = {nullptr, nullptr, nullptr};
+  const char* name = nullptr;                               ///< the type's name
+  const void* unused1to3[3] = {nullptr, nullptr, nullptr};  ///< slots 1 to 3
+  const char* image = nullptr;                              ///< image of a node of the type
+  const char* expandedImage = nullptr;                      ///< image of such a node while it is expanded
+  const void* unused6to8[3] = {nullptr, nullptr, nullptr};  ///< slots 6 to 8
 };
 static_assert(sizeof(NodeTypeRecord) == 9 * sizeof(void*), "the toolkit fixes the layout");
 

@@ -20,12 +20,14 @@ class CComparator {
   CComparator& operator=(const CComparator&) = default;
   virtual ~CComparator() = default;
 
+  /// Sets what `IsAscending` tells; `Compare` stays as it is.
   virtual void SetAscending(bool value) { ascending = value; }
+  /// Whether smaller values go first.
   virtual bool IsAscending() const { return ascending; }
   /// Whether `a` sorts strictly before `b`.
   virtual bool Compare(const T& a, const T& b) const = 0;
 
-  bool ascending = true;
+  bool ascending = true;  ///< what `IsAscending` tells
 };
 
 /// Natural order over a string type `S` of characters `C`, written once in terms of virtual slots: a derived comparator
@@ -38,17 +40,24 @@ class CComparator {
 template <class S, class C>
 class CAlphaNumericComparator : public CComparator<S> {
  public:
+  /// Compares the characters that `Chars` gives, with regard to the sign of numbers.
   bool Compare(const S& a, const S& b) const override { return CompareCharacters(Chars(a), Chars(b), true); }
 
   /// For a derived comparator's own use; nothing calls it.
   virtual void Hook() {}
+  /// Folds a character for the comparison; one that is not folded is given back.
   virtual C ToUpper(C c) const = 0;
   /// The characters of a string, up to and including the terminator. May be null.
   virtual const C* Chars(const S& s) const = 0;
+  /// The first of the consecutive digits, the one that counts as zero.
   virtual C DigitLow() const = 0;
+  /// The last of the consecutive digits.
   virtual C DigitHigh() const = 0;
+  /// The character that ends a string.
   virtual C Terminator() const = 0;
+  /// Whether a minus sign before digits on both sides turns the order of the numbers round.
   virtual bool SignedNumbers() const = 0;
+  /// The sign that `SignedNumbers` is about.
   virtual C MinusSign() const = 0;
 
  protected:
