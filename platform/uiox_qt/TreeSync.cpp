@@ -86,6 +86,13 @@ void TreeView::Sync::NoteSelection(const QItemSelection& selected, const QItemSe
   }
 }
 
+void TreeView::Sync::NoteGround() {
+  if (!Tree() || Tree()->Style().selection == uiox::SelectionMode::None) return;
+  command_ = QItemSelectionModel::Clear;
+  command_node_ = kNoNode;
+  selection_touched_ = true;
+}
+
 void TreeView::Sync::NoteToggle(const QModelIndex& index, bool expanded) {
   // What is opened to show what a filter has left is no matter of the tree.
   if (following_ > 0 || model_.IsChangingShape() || model_.HasFilter() || !Tree()) return;

@@ -37,6 +37,8 @@ class TreeView::Sync final : private uiox::TreeObserver {
   void Begin() { ++depth_; }
   void NoteCommand(QItemSelectionModel::SelectionFlags command, const QModelIndex& index) const;
   void NoteSelection(const QItemSelection& selected, const QItemSelection& deselected);
+  /// The user has clicked where there is nothing: nothing is to be selected.
+  void NoteGround();
   void NoteToggle(const QModelIndex& index, bool expanded);
   /// What is to be done last, with the tree.
   void NoteAction(std::function<void(uiox::TreeWidget&)> action) { action_ = std::move(action); }

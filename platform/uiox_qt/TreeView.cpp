@@ -164,7 +164,10 @@ void TreeView::mouseReleaseEvent(QMouseEvent* event) {
   const Spot pressed = std::exchange(pressed_, Spot());
   if (!IsBox(pressed)) QTreeView::mouseReleaseEvent(event);
   const bool same = event->button() == Qt::LeftButton && pressed == SpotAt(event->position().toPoint());
-  if (check_.Active()) {
+  if (same && pressed.part == Part::None && !event->modifiers()) {
+    // Where nothing is marked there may yet be something selected, such as what a node stands for.
+    sync_->NoteGround();
+  } else if (check_.Active()) {
     EndCheck(same || check_.CoversMore());
   } else if (same) {
     Click(pressed);

@@ -95,6 +95,13 @@ TEST_F(TreeSelectionTest, SelectsNothingByAClickOnTheGround) {
   EXPECT_EQ(Selected(), Words{});
 }
 
+TEST_F(TreeSelectionTest, ClickOnTheGroundIsToldAlsoWhereNothingIsMarked) {
+  Plant();
+  Click(QPoint(100, 380));
+  EXPECT_EQ(Heard(), Words{"select"});
+  EXPECT_EQ(Selected(), Words{});
+}
+
 TEST_F(TreeSelectionTest, FollowsAProgramThatSelectsWithoutTellingItBack) {
   Plant();
   Store().Select({Id("a"), Id("c")});
