@@ -3,7 +3,6 @@
 #include <viewer/trees/LayerTree.h>
 #include <viewer/trees/NaturalNames.h>
 #include <viewer/trees/NodeName.h>
-#include <viewer/trees/TextSearch.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -85,6 +84,23 @@ std::vector<Entry> EntriesOf(Kind kind, const SectionDiff& section) {
   return entries;
 }
 
+// Says of a net that only one board has what it is called in the other.
+void NameRenamed(const std::vector<RenamedNet>& renamed, std::vector<Entry>& entries) {
+  std::map<std::int32_t, const std::string*> inB;  // by the id in A, and the other way round
+  std::map<std::int32_t, const std::string*> inA;
+  for (const RenamedNet& net : renamed) {
+    inB.emplace(net.a.id, &net.b.name);
+    inA.emplace(net.b.id, &net.a.name);
+  }
+  for (Entry& entry : entries) {
+    if (entry.subject.b < 0 && inB.count(entry.subject.a) > 0) {
+      entry.difference += ", in B " + *inB.at(entry.subject.a);
+    } else if (entry.subject.a < 0 && inA.count(entry.subject.b) > 0) {
+      entry.difference += ", in A " + *inA.at(entry.subject.b);
+    }
+  }
+}
+
 // Layers as A has them, those of B alone behind; everything else in natural order.
 void PutInOrder(Kind kind, std::vector<Entry>& entries) {
   if (kind == Kind::Layer) {
@@ -142,14 +158,7 @@ void CompareTree::AddHeading(const char* node, const std::wstring& label, bool e
 
 void CompareTree::AddSection(Kind kind, const char* heading, const SectionDiff& section) {
   std::vector<Entry> entries = EntriesOf(kind, section);
-  if (kind == Kind::Net) {
-    for (const RenamedNet& renamed : diff_.renamed) {
-      for (Entry& entry : entries) {
-        if (entry.subject.b < 0 && entry.subject.a == renamed.a.id) entry.difference += ", in B " + renamed.b.name;
-        if (entry.subject.a < 0 && entry.subject.b == renamed.b.id) entry.difference += ", in A " + renamed.a.name;
-      }
-    }
-  }
+  if (kind == Kind::Net) NameRenamed(diff_.renamed, entries);
   PutInOrder(kind, entries);
   for (Entry& entry : entries) AddSubject(heading, std::move(entry.subject), entry.difference);
   const std::wstring summary = Utf8ToWideStr(SummaryOf(section));
@@ -211,8 +220,8 @@ std::size_t CompareTree::NextDifference(std::size_t from, bool backwards,
   return kNone;
 }
 
-bool CompareTree::Matches(std::size_t subject, std::string_view text) const {
-  return HoldsText(subjects_[subject].name, text) || HoldsText(differences_[subject], text);
+bool CompareTree::Matches(std::size_t subject, const TextTest& test) const {
+  return test(subjects_[subject].name) || test(differences_[subject]);
 }
 
 void CompareTree::OnSelect(int count, char** nodes, int /*kind*/) {

@@ -6,6 +6,7 @@
 #include <viewer/board/Board.h>
 #include <viewer/diff/BoardDiff.h>
 #include <viewer/trees/LayerPalette.h>
+#include <viewer/trees/TextSearch.h>
 
 #include <cstddef>
 #include <functional>
@@ -91,8 +92,8 @@ class CompareTree : public oxecad_ui::CompareColorTree {
   /// `accept` may refuse subjects. kNone when there is none.
   std::size_t NextDifference(std::size_t from, bool backwards, const std::function<bool(std::size_t)>& accept) const;
 
-  /// Whether a subject's name or difference holds the text (UTF-8, ASCII letters in any case).
-  bool Matches(std::size_t subject, std::string_view text) const;
+  /// Whether a subject's name or difference passes a test of texts (UTF-8).
+  bool Matches(std::size_t subject, const TextTest& test) const;
 
   void OnSelect(int count, char** nodes, int kind) override;
 

@@ -1,6 +1,7 @@
 #include <viewer/trees/LayerTree.h>
 #include <viewer/trees/NodeName.h>
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 #include <utility>
@@ -142,6 +143,23 @@ void LayerTree::SetActiveLayer(LayerId active) {
 void LayerTree::SetVisible(LayerId id, bool visible) {
   SetNodeState(NodeName(kLayerKind, board_.layers[static_cast<std::size_t>(id)].name).c_str(), StateOf(visible));
   SumUpGroups();
+}
+
+void LayerTree::ShowLayers(const std::function<bool(LayerId)>& shown) {
+  for (std::size_t i = 0; i < board_.DeclaredLayerCount(); ++i) {
+    const bool visible = shown(static_cast<LayerId>(i));
+    SetNodeState(NodeName(kLayerKind, board_.layers[i].name).c_str(), StateOf(visible));
+  }
+  SumUpGroups();
+  if (onChange_) onChange_();
+}
+
+bool LayerTree::IsSelected(LayerId id) const {
+  const Layer& layer = board_.layers[static_cast<std::size_t>(id)];
+  const auto holds = [this](const std::string& node) {
+    return std::find(selection_.begin(), selection_.end(), node) != selection_.end();
+  };
+  return holds(NodeName(kLayerKind, layer.name)) || holds(layer.copper ? kCopperGroup : kTechnicalGroup);
 }
 
 bool LayerTree::IsGroup(const std::string& node) {

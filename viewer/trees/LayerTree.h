@@ -54,6 +54,10 @@ class LayerTree : public oxecad_ui::ColorTree {
   /// Makes a copper layer the active one.
   void SetActiveLayer(LayerId layer);
   void SetVisible(LayerId layer, bool visible);
+  /// Shows the listed layers that the test accepts and hides the others, as one change by the user.
+  void ShowLayers(const std::function<bool(LayerId)>& shown);
+  /// Whether the layer's node or its group is selected.
+  bool IsSelected(LayerId layer) const;
 
   /// The names of the selected nodes.
   const std::vector<std::string>& Selection() const { return selection_; }

@@ -30,6 +30,9 @@ class ObjectTree : public oxecad_ui::EcadTree {
   const std::set<void*>& SelectedObjects() const { return selected_; }
 
   void OnActivate(const char* node) override;
+  /// A node that stands for all its children does not stay selected itself. Taken in by itself while all of them are
+  /// selected, it takes them out.
+  void OnSelect(int count, char** nodes, int kind) override;
 
  protected:
   static constexpr const char* kRoot = "root";
@@ -43,6 +46,7 @@ class ObjectTree : public oxecad_ui::EcadTree {
   }
 
  private:
+  bool HoldsAllOf(const std::string& node) const;
   static int DirtyCB(void* self, void* reason);
 
   std::set<void*> selected_;

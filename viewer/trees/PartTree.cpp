@@ -12,11 +12,14 @@
 #include <utility>
 
 #include <oxecadutils/StringConversion.h>
+#include <uicomps/base/WidgetOf.h>
+#include <uicomps/toolkit/NodeCalls.h>
 
 namespace oxviewer {
 namespace {
 
 using oxecadutils::Utf8ToWideStr;
+namespace wire = oxecad_ui::wire;
 using DataNodeInfo = oxecad_ui::UserDataTree::DataNodeInfo;
 
 constexpr const char* kRoot = "root";
@@ -73,12 +76,11 @@ PartTree::~PartTree() { UserDataTree::Clear(); }
 
 void PartTree::Fill() {
   Init();
-  SetFilter({});
+  SetFilter(TextTest());
 }
 
 bool PartTree::PassesFilter(const oxviewer::Component& component) const {
-  return HoldsText(component.reference, filter_) || HoldsText(component.value, filter_) ||
-         HoldsText(component.footprint, filter_);
+  return !filter_ || filter_(component.reference) || filter_(component.value) || filter_(component.footprint);
 }
 
 // A record places its node at most two levels deep by its name, and these names hold no '/': all parts first come below
@@ -100,7 +102,7 @@ void PartTree::AddRecords(TreeInfo& records) const {
     branch.name = KindNode(kind);
     branch.label = BranchLabel(PartKindName(kind));
     branch.type = kKindType;
-    branch.expanded = GetNodeExpanded(branch.name.c_str());
+    branch.expanded = filter_ != nullptr || expanded_.count(branch.name) > 0;
     Append(records, branch);
   }
   for (const std::size_t position : order_) {
@@ -115,8 +117,20 @@ void PartTree::AddRecords(TreeInfo& records) const {
   }
 }
 
+void PartTree::RememberExpanded() {
+  expanded_.clear();
+  for (std::size_t kind = 0; kind < PartKindCount(); ++kind) {
+    if (GetNodeExpanded(KindNode(kind).c_str())) expanded_.insert(KindNode(kind));
+  }
+}
+
 void PartTree::SetFilter(std::string_view text) {
-  filter_.assign(text);
+  SetFilter(text.empty() ? TextTest() : HoldingText(std::string(text)));
+}
+
+void PartTree::SetFilter(TextTest test) {
+  if (!filter_) RememberExpanded();
+  filter_ = std::move(test);
   TreeInfo records;
   AddRecords(records);
   SetRedraw(false);
@@ -129,11 +143,19 @@ void PartTree::SetFilter(std::string_view text) {
     MoveNodeBefore(leaf.c_str(), KindNode(PartKindOf(component.reference)).c_str(), nullptr);
     OnLeafAdded(leaf.c_str());
   }
+  SelectAgain();
   SetRedraw(true);
-  if (!selected_.empty()) {
-    selected_.clear();
-    if (onSelection_) onSelection_();
+}
+
+// The nodes are new ones: those that were selected and are there again are selected again.
+void PartTree::SelectAgain() {
+  std::vector<std::string> nodes;
+  for (const std::string& node : selectedNodes_) {
+    if (wire::SetNode(oxecad_ui::WidgetOf(*this), node.c_str(), wire::kNodeHighlighted(1))) nodes.push_back(node);
   }
+  const std::vector<const oxviewer::Component*> before = selected_;
+  TakeSelection(nodes);
+  if (selected_ != before && onSelection_) onSelection_();
 }
 
 std::vector<const oxviewer::Component*> PartTree::Shown() const {
@@ -151,12 +173,18 @@ void PartTree::OnActivate(const char* node) {
 }
 
 void PartTree::OnSelect(int count, char** nodes, int /*kind*/) {
+  selectedNodes_.assign(nodes, nodes + count);
+  TakeSelection(selectedNodes_);
+  if (onSelection_) onSelection_();
+}
+
+void PartTree::TakeSelection(const std::vector<std::string>& nodes) {
   std::vector<void*> data;
-  for (int i = 0; i < count; ++i) {
+  for (const std::string& node : nodes) {
     void* own = nullptr;
-    if (GetNodeType(nodes[i]) != kLeafType) {
-      GetBranchData(nodes[i], data, nullptr, LeavesOnly());
-    } else if (GetNodeData(nodes[i], own) && own) {
+    if (GetNodeType(node.c_str()) != kLeafType) {
+      GetBranchData(node.c_str(), data, nullptr, LeavesOnly());
+    } else if (GetNodeData(node.c_str(), own) && own) {
       data.push_back(own);
     }
   }
@@ -164,7 +192,6 @@ void PartTree::OnSelect(int count, char** nodes, int /*kind*/) {
   data.erase(std::unique(data.begin(), data.end()), data.end());
   selected_.clear();
   for (void* component : data) selected_.push_back(static_cast<const oxviewer::Component*>(component));
-  if (onSelection_) onSelection_();
 }
 
 }  // namespace oxviewer

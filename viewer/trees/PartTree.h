@@ -4,8 +4,10 @@
 #define OXECAD_VIEWER_TREES_PARTTREE_H
 
 #include <viewer/board/Board.h>
+#include <viewer/trees/TextSearch.h>
 
 #include <functional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -37,8 +39,11 @@ class PartTree : public oxecad_ui::UserDataTree {
   void Fill();
 
   /// Shows only components whose reference, value or footprint holds the text (UTF-8, ASCII letters in any case); the
-  /// empty text shows all. Which kinds are expanded stays.
+  /// empty text shows all. While there is a filter, kinds are expanded; without one they are again as they were before.
+  /// What was selected and is shown again is selected again.
   void SetFilter(std::string_view text);
+  /// The same with another way of looking for texts; an empty function shows all.
+  void SetFilter(TextTest test);
 
   /// The components that are shown, in no particular order.
   std::vector<const oxviewer::Component*> Shown() const;
@@ -59,12 +64,17 @@ class PartTree : public oxecad_ui::UserDataTree {
   class LeavesOnly;
 
   bool PassesFilter(const oxviewer::Component& component) const;
+  void RememberExpanded();
+  void SelectAgain();
+  void TakeSelection(const std::vector<std::string>& nodes);
   void AddRecords(TreeInfo& records) const;
 
   const Board& board_;
   std::vector<std::string> nodes_;
-  std::vector<std::size_t> order_;  // positions of the components in natural order of their labels
-  std::string filter_;
+  std::vector<std::size_t> order_;          // positions of the components in natural order of their labels
+  TextTest filter_;                         // empty: all are shown
+  std::set<std::string> expanded_;          // kinds, while there is a filter: what was expanded before
+  std::vector<std::string> selectedNodes_;  // as the user selected them, shown or not
   std::vector<const oxviewer::Component*> selected_;
   std::function<void()> onSelection_;
   std::function<void(const oxviewer::Component&)> onActivation_;

@@ -73,7 +73,9 @@ class Maker {
       const Zone& zone = board_.zones[i];
       const ItemOrigin origin{ItemKind::Zone, static_cast<std::uint32_t>(i), zone.net, zone.component};
       for (const ZoneFill& fill : zone.fills) {
-        if (LayerGeometry* layer = LayerOf(fill.layer)) AddArea(*layer, PolygonPath(fill.polygon), origin);
+        LayerGeometry* layer = LayerOf(fill.layer);
+        if (!layer) continue;
+        for (QPainterPath& piece : PiecesOf(fill.polygon)) AddArea(*layer, std::move(piece), origin);
       }
       if (!zone.fills.empty()) continue;
       for (const Polygon& outline : zone.outlines) {

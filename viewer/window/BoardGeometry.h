@@ -34,7 +34,8 @@ struct LineItem {
   ItemOrigin origin;
 };
 
-/// A filled area.
+/// A filled area. A large one is in several pieces that overlap a little: then a picture of a part of it costs a part
+/// of the time.
 struct AreaItem {
   QPainterPath path;
   QRectF box;

@@ -120,22 +120,26 @@ CompareStyle BoardSession::CompareStyleOf(const ViewStyle& view) const {
   return style;
 }
 
-// The layers of A that are visible, each with that of the same name of B; a layer that only B has is visible.
+// The layers of A that are visible, each with that of the same name of B, from back to front. A layer that only B has
+// is visible, and lies where B has it.
 std::vector<LayerPair> BoardSession::VisibleLayers() const {
-  std::map<std::string_view, LayerId> ofB;
-  for (std::size_t i = 0; i < boards_.b->layers.size(); ++i) {
-    ofB.emplace(boards_.b->layers[i].name, static_cast<LayerId>(i));
-  }
   std::vector<LayerPair> pairs;
-  for (const LayerId id : a_->backToFront) {
-    LayerPair pair{id, kNoLayer};
-    if (const auto found = ofB.find(A().layers[static_cast<std::size_t>(id)].name); found != ofB.end()) {
-      pair.b = found->second;
-      ofB.erase(found);
+  for (const LayerId id : a_->backToFront) pairs.push_back({id, kNoLayer});
+  std::map<std::string_view, LayerId> ofA;
+  for (const LayerId id : a_->backToFront) ofA.emplace(A().layers[static_cast<std::size_t>(id)].name, id);
+  auto at = pairs.begin();
+  for (const LayerId id : b_->backToFront) {
+    const auto same = ofA.find(boards_.b->layers[static_cast<std::size_t>(id)].name);
+    if (same == ofA.end()) {
+      at = pairs.insert(at, {kNoLayer, id});
+    } else {
+      at = std::find_if(pairs.begin(), pairs.end(), [&](const LayerPair& pair) { return pair.a == same->second; });
+      at->b = id;
     }
-    if (trees_->Layers().IsVisible(id)) pairs.push_back(pair);
+    ++at;
   }
-  for (const auto& [name, id] : ofB) pairs.push_back({kNoLayer, id});
+  std::erase_if(pairs,
+                [this](const LayerPair& pair) { return pair.a != kNoLayer && !trees_->Layers().IsVisible(pair.a); });
   return pairs;
 }
 

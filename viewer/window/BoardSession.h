@@ -31,6 +31,8 @@ class BoardSession {
   bool IsComparing() const { return boards_.b != nullptr; }
   BoardTrees& Trees() { return *trees_; }
 
+  /// The geometry of board A.
+  const BoardGeometry& Geometry() const { return *a_; }
   std::shared_ptr<const Scene> MakeScene(const ViewStyle& view) const;
 
   /// What is selected in the trees of nets, components and kinds.

@@ -7,6 +7,7 @@
 #include <viewer/window/Scene.h>
 
 #include <QColor>
+#include <QImage>
 
 #include <functional>
 #include <map>
@@ -18,7 +19,8 @@ namespace oxviewer {
 /// The colour of an item; one without any opacity leaves the item out.
 using ColorOfItem = std::function<QRgb(const ItemOrigin&)>;
 
-/// Gathers items by what they are painted with, and paints each lot in one go: zones first, vias last.
+/// Gathers items by what they are painted with, and paints each lot in one go: zones first, vias last. Zones of one
+/// colour become one area before they are painted, so that the seams of their pieces and their overlaps do not show.
 class Brushwork {
  public:
   /// No line is painted thinner than `thinnest` millimetres, nor than one pixel.
@@ -35,14 +37,18 @@ class Brushwork {
 
   bool PaintAreas(QPainter& painter, ItemKind kind, const IsStale& isStale) const;
   bool PaintLines(QPainter& painter, ItemKind kind, const IsStale& isStale) const;
+  bool PaintZones(QPainter& painter, const IsStale& isStale) const;
 
-  QRectF area_;
+  Viewport viewport_;
   double thinnest_;
   double smallest_;
   std::map<LineKey, std::vector<QLineF>> lines_;
-  std::map<AreaKey, std::vector<const QPainterPath*>> areas_;
+  std::map<AreaKey, std::vector<const AreaItem*>> areas_;
   std::vector<std::uint32_t> found_;
 };
+
+/// A transparent picture of a viewport in the resolution of a device.
+QImage EmptyImage(const QPaintDevice& device, const Viewport& viewport);
 
 /// A colour on its way from one to another: `share` of 0 gives `from`, 1 gives `to`. The opacity of `from` stays.
 QRgb Blended(QRgb from, QRgb to, double share);

@@ -1,12 +1,12 @@
 #include <viewer/trees/CompareTree.h>
 #include <viewer/window/ComparePanel.h>
+#include <viewer/window/FilterLine.h>
 #include <viewer/window/ToolIcons.h>
 #include <viewer/window/TreePanel.h>
 
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -43,12 +43,10 @@ ComparePanel::ComparePanel(uiox_qt::TreeView& view, QWidget* parent)
   layout->addWidget(place_);
   connect(previous, &QToolButton::clicked, this, [this] { GoToPrevious(); });
   connect(next, &QToolButton::clicked, this, [this] { GoToNext(); });
-  connect(differencesOnly_, &QCheckBox::toggled, this, [this] { panel_->Refilter(); });
-  panel_->SetLeafTest([this](const std::string& node, const QString& text) {
+  connect(differencesOnly_, &QCheckBox::toggled, this, [this](bool only) { panel_->SetNarrowed(only); });
+  panel_->SetNodeTest([this](const std::string& node, const TextMatcher& matcher) {
     const std::size_t subject = tree_ ? tree_->SubjectOf(node) : CompareTree::kNone;
-    if (subject == CompareTree::kNone) return text.isEmpty() && !differencesOnly_->isChecked();
-    return (!differencesOnly_->isChecked() || tree_->Subjects()[subject].differs) &&
-           tree_->Matches(subject, text.toStdString());
+    return subject != CompareTree::kNone && IsShown(subject, matcher);
   });
 }
 
@@ -59,14 +57,15 @@ void ComparePanel::SetTree(CompareTree* tree) {
   if (tree_) {
     for (const CompareSubject& subject : tree_->Subjects()) differences += subject.differs ? 1 : 0;
   }
-  place_->setText(differences == 0 ? tr("The boards are equal")
-                                   : tr("%n difference(s)", nullptr, static_cast<int>(differences)));
+  place_->setText(differences == 0   ? tr("The boards are equal")
+                  : differences == 1 ? tr("1 difference")
+                                     : tr("%1 differences").arg(differences));
   differencesOnly_->setEnabled(differences > 0);
 }
 
-bool ComparePanel::IsShown(std::size_t subject) const {
+bool ComparePanel::IsShown(std::size_t subject, const TextMatcher& matcher) const {
   return (!differencesOnly_->isChecked() || tree_->Subjects()[subject].differs) &&
-         tree_->Matches(subject, panel_->FilterLine().text().toStdString());
+         tree_->Matches(subject, [&](std::string_view text) { return matcher.MatchesUtf8(text); });
 }
 
 void ComparePanel::Go(bool backwards) {
@@ -74,8 +73,9 @@ void ComparePanel::Go(bool backwards) {
   const std::vector<std::size_t>& selected = tree_->Selected();
   const std::size_t from =
       selected.empty() || selected.size() == tree_->Subjects().size() ? CompareTree::kNone : selected.back();
+  const TextMatcher matcher = panel_->Filter().Matcher();
   const std::size_t next =
-      tree_->NextDifference(from, backwards, [this](std::size_t subject) { return IsShown(subject); });
+      tree_->NextDifference(from, backwards, [&](std::size_t subject) { return IsShown(subject, matcher); });
   if (next == CompareTree::kNone) return;
   panel_->SelectNodes({tree_->Subjects()[next].node}, false);
   std::size_t number = 0;

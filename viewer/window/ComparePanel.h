@@ -17,6 +17,7 @@ class TreeView;
 namespace oxviewer {
 
 class CompareTree;
+class TextMatcher;
 class TreePanel;
 
 /// The tree of a comparison with its filter line, a box for "differences only", and the way from difference to
@@ -41,7 +42,7 @@ class ComparePanel : public QWidget {
 
  private:
   void Go(bool backwards);
-  bool IsShown(std::size_t subject) const;
+  bool IsShown(std::size_t subject, const TextMatcher& matcher) const;
 
   CompareTree* tree_ = nullptr;
   TreePanel* panel_;

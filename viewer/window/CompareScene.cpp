@@ -14,14 +14,6 @@ constexpr double kZoneOpacity = 0.4;
 
 QRgb ToRgb(Color color) { return qRgb(RedOf(color), GreenOf(color), BlueOf(color)); }
 
-// A picture of the painter's own resolution.
-QImage EmptyMask(const QPainter& painter, const Viewport& viewport) {
-  const double ratio = painter.device()->devicePixelRatioF();
-  QImage mask((QSizeF(viewport.size) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
-  mask.setDevicePixelRatio(ratio);
-  return mask;
-}
-
 // What is in `shape`, without or within `other`, in one colour.
 QImage Part(const QImage& shape, const QImage& other, QPainter::CompositionMode mode, QRgb color) {
   QImage part = shape;
@@ -108,8 +100,8 @@ bool CompareScene::MakeMask(QImage& mask, const Viewport& viewport, const BoardG
 
 bool CompareScene::PaintLayer(QPainter& painter, const Viewport& viewport, const LayerPair& layer,
                               const IsStale& isStale) const {
-  QImage a = EmptyMask(painter, viewport);
-  QImage b = EmptyMask(painter, viewport);
+  QImage a = EmptyImage(*painter.device(), viewport);
+  QImage b = EmptyImage(*painter.device(), viewport);
   for (const bool zones : {true, false}) {
     for (const std::uint32_t number : LooksOn(layer, viewport.Area(), zones)) {
       if (isStale() || !MakeMask(a, viewport, *a_, style_.a, layer.a, number, zones, isStale) ||

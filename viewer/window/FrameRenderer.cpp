@@ -14,7 +14,7 @@ FrameRenderer::~FrameRenderer() {
     const std::lock_guard lock(mutex_);
     ending_ = true;
     order_.reset();
-    ++latest_;
+    ++generation_;
   }
   wanted_.notify_one();
   worker_.join();
@@ -23,7 +23,9 @@ FrameRenderer::~FrameRenderer() {
 void FrameRenderer::Request(std::shared_ptr<const Scene> scene, const Viewport& viewport, double ratio) {
   {
     const std::lock_guard lock(mutex_);
-    order_ = std::make_unique<Order>(Order{std::move(scene), viewport, ratio, ++latest_});
+    if (scene != scene_) ++generation_;
+    scene_ = scene;
+    order_ = std::make_unique<Order>(Order{std::move(scene), viewport, ratio, generation_.load()});
   }
   wanted_.notify_one();
 }
@@ -31,7 +33,8 @@ void FrameRenderer::Request(std::shared_ptr<const Scene> scene, const Viewport& 
 void FrameRenderer::Cancel() {
   const std::lock_guard lock(mutex_);
   order_.reset();
-  ++latest_;
+  scene_.reset();
+  ++generation_;
 }
 
 Frame FrameRenderer::Render(std::shared_ptr<const Scene> scene, const Viewport& viewport, double ratio,
@@ -52,19 +55,19 @@ void FrameRenderer::Work() {
     if (ending_) return;
     const std::unique_ptr<Order> order = std::move(order_);
     lock.unlock();
-    const std::uint64_t number = order->number;
-    const auto isStale = [this, number] { return latest_.load(std::memory_order_relaxed) != number; };
+    const std::uint64_t generation = order->generation;
+    const auto isStale = [this, generation] { return generation_.load(std::memory_order_relaxed) != generation; };
     Frame frame = Render(order->scene, order->viewport, order->ratio, isStale);
     if (!isStale()) {
       QMetaObject::invokeMethod(
-          this, [this, frame = std::move(frame), number] { Deliver(frame, number); }, Qt::QueuedConnection);
+          this, [this, frame = std::move(frame), generation] { Deliver(frame, generation); }, Qt::QueuedConnection);
     }
     lock.lock();
   }
 }
 
-void FrameRenderer::Deliver(const Frame& frame, std::uint64_t number) {
-  if (latest_.load(std::memory_order_relaxed) == number) Q_EMIT FrameReady(frame);
+void FrameRenderer::Deliver(const Frame& frame, std::uint64_t generation) {
+  if (generation_.load(std::memory_order_relaxed) == generation) Q_EMIT FrameReady(frame);
 }
 
 }  // namespace oxviewer

@@ -25,7 +25,9 @@ struct Frame {
   double ratio = 1;  ///< pixels of the device to one of the viewport
 };
 
-/// Paints the latest picture asked for on a thread of its own; a picture that is no longer the latest is given up.
+/// Paints the latest picture asked for on a thread of its own. While it is at work, of several requests only the last
+/// one is kept. A picture of the same scene at another place is finished and delivered, so that a view that is dragged
+/// about gets pictures all the while; one of a scene that has been replaced is given up.
 class FrameRenderer : public QObject {
   Q_OBJECT
 
@@ -34,7 +36,7 @@ class FrameRenderer : public QObject {
   /// Gives up what is being painted and waits for the thread.
   ~FrameRenderer() override;
 
-  /// Asks for a picture; `FrameReady` brings it unless another one is asked for meanwhile.
+  /// Asks for a picture; `FrameReady` brings it unless another one replaces it before it is begun.
   void Request(std::shared_ptr<const Scene> scene, const Viewport& viewport, double ratio);
   /// Forgets what was asked for.
   void Cancel();
@@ -53,17 +55,18 @@ class FrameRenderer : public QObject {
     std::shared_ptr<const Scene> scene;
     Viewport viewport;
     double ratio = 1;
-    std::uint64_t number = 0;
+    std::uint64_t generation = 0;
   };
 
   void Work();
-  void Deliver(const Frame& frame, std::uint64_t number);
+  void Deliver(const Frame& frame, std::uint64_t generation);
 
   std::mutex mutex_;
   std::condition_variable wanted_;
   std::unique_ptr<Order> order_;
   bool ending_ = false;
-  std::atomic<std::uint64_t> latest_{0};
+  std::shared_ptr<const Scene> scene_;        // of the last request
+  std::atomic<std::uint64_t> generation_{0};  // another one for each scene and after each cancellation
   std::thread worker_;
 };
 

@@ -2,6 +2,7 @@
 #include <viewer/window/BoardSession.h>
 #include <viewer/window/BoardView.h>
 #include <viewer/window/ComparePanel.h>
+#include <viewer/window/FilterLine.h>
 #include <viewer/window/MainWindow.h>
 #include <viewer/window/MainWindowActions.h>
 #include <viewer/window/Mainframe.h>
@@ -12,7 +13,6 @@
 #include <QFileInfo>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QSplitter>
@@ -21,6 +21,8 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <initializer_list>
 #include <utility>
 
 #include <uicomps/toolkit/DeviceCalls.h>
@@ -31,13 +33,25 @@ namespace oxviewer {
 namespace {
 
 constexpr int kPanelWidth = 290;
-constexpr int kComparisonWidth = 470;
+constexpr int kComparisonWidth = 600;
 
 TreePanel* MakePanel(uiox_qt::QtFront& front, const char* device, const char* tree, const QString& placeholder) {
   return new TreePanel(*front.TreeViewFor(device, tree), placeholder);
 }
 
 QString FileName(const Board& board) { return QFileInfo(QString::fromStdString(board.name)).fileName(); }
+
+// Labels of a form are as wide as the widest.
+void AlignLabels(uiox_qt::QtFront& front, const char* device, std::initializer_list<const char*> labels) {
+  int widest = 0;
+  for (const char* label : labels) {
+    if (const QWidget* widget = front.ComponentFor(device, label))
+      widest = std::max(widest, widget->sizeHint().width());
+  }
+  for (const char* label : labels) {
+    if (QWidget* widget = front.ComponentFor(device, label)) widget->setMinimumWidth(widest);
+  }
+}
 
 // The first local file that something dragged brings along.
 QString BoardIn(const QMimeData& data) {
@@ -88,6 +102,11 @@ MainWindow::~MainWindow() {
   view_->SetScene(nullptr);
   compare_->SetTree(nullptr);
   session_.reset();
+  // The front's widgets are only placed here: another window may show them later.
+  if (QWidget* settings = front_.WidgetFor(kSettingsPanel)) {
+    settings->hide();
+    settings->setParent(nullptr);
+  }
   front_.SetMainWindow(nullptr);
 }
 
@@ -96,9 +115,12 @@ void MainWindow::MakePanels() {
   nets_ = MakePanel(front_, kNetsPanel, NetTree::kName, tr("Filter nets"));
   components_ = MakePanel(front_, kComponentsPanel, ComponentTree::kName, tr("Filter components"));
   parts_ = MakePanel(front_, kObjectsPanel, PartTree::kName, tr("Filter by reference, value or footprint"));
+  layers_->View().SetCheckRule(uiox_qt::CheckRule::WithSelection);
   compare_ = new ComparePanel(*front_.TreeViewFor(kComparePanel, CompareTree::kName));
-  parts_->SetFilterAction([this](const QString& text) {
-    if (session_) session_->Trees().Parts().SetFilter(text.toStdString());
+  parts_->SetFilterAction([this](const TextMatcher& matcher) {
+    if (!session_) return;
+    if (matcher.IsEmpty()) return session_->Trees().Parts().SetFilter(TextTest());
+    session_->Trees().Parts().SetFilter([matcher](std::string_view text) { return matcher.MatchesUtf8(text); });
   });
   for (const char* device :
        {kLayersPanel, kNetsPanel, kComponentsPanel, kObjectsPanel, kComparePanel, kSettingsPanel}) {
@@ -113,6 +135,8 @@ void MainWindow::MakePanels() {
   layerSide->setDocumentMode(true);
   layerSide->addTab(layers_, tr("Layers"));
   layerSide->addTab(front_.WidgetFor(kSettingsPanel), tr("View"));
+  AlignLabels(front_, kSettingsPanel, {"gridLabel", "lineWidthLabel", "dimLabel"});
+  AlignLabels(front_, kSettingsPanel, {"gridUnit", "lineWidthUnit", "dimUnit"});
   auto* left = new QSplitter(Qt::Vertical);
   left->addWidget(layerSide);
   left->addWidget(tabs_);
@@ -140,8 +164,9 @@ void MainWindow::MakeStatusBar() {
 
 void MainWindow::ShowBoards(LoadedBoards boards) {
   view_->SetScene(nullptr);
+  view_->SetOverlay(nullptr);
   compare_->SetTree(nullptr);
-  for (TreePanel* panel : {layers_, nets_, components_, parts_, &compare_->Panel()}) panel->FilterLine().clear();
+  for (TreePanel* panel : {layers_, nets_, components_, parts_, &compare_->Panel()}) panel->Filter().clear();
   session_.reset();
   if (boards.a) session_ = std::make_unique<BoardSession>(std::move(boards), mainframe_.get());
   compare_->setVisible(session_ && session_->IsComparing());
@@ -150,6 +175,7 @@ void MainWindow::ShowBoards(LoadedBoards boards) {
     compare_->SetTree(session_->Trees().Compare());
     view_->SetScene(session_->MakeScene(viewStyle_));
   }
+  ShowReferences();
   view_->SetFrames({});
   UpdateActions();
   UpdateTitle();

@@ -68,6 +68,7 @@ class MainWindow : public QMainWindow {
   void MakeHelpMenu();
   void MakeThemeMenu(QMenu& menu);
   void MakeUnitMenu(QMenu& menu);
+  void MakeLayerMenu(QMenu& menu);
   void MakeContextMenus();
   void MakeStatusBar();
   void ConnectView();
@@ -77,6 +78,7 @@ class MainWindow : public QMainWindow {
   void ShowSelection();
   void ShowPlace(QPointF place);
   void ShowZoom();
+  void ShowReferences();
   void Pick(QPointF place, double tolerance, bool extend);
   void ShowPart(const Marks& marks);
   void UpdateActions();

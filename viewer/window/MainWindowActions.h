@@ -5,6 +5,8 @@
 
 #include <viewer/window/MainWindow.h>
 
+#include <QList>
+
 class QAction;
 class QToolBar;
 
@@ -19,6 +21,9 @@ struct MainWindow::Actions {
   QAction* zoomIn = nullptr;
   QAction* zoomOut = nullptr;
   QAction* flip = nullptr;
+  QAction* references = nullptr;
+  QList<QAction*> layers;
+  QAction* onlyLayers = nullptr;
   QAction* highlight = nullptr;
   QAction* isolate = nullptr;
   QAction* clear = nullptr;

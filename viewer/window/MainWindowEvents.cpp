@@ -5,6 +5,7 @@
 #include <viewer/window/MainWindow.h>
 #include <viewer/window/MainWindowActions.h>
 #include <viewer/window/Mainframe.h>
+#include <viewer/window/ReferenceLabels.h>
 #include <viewer/window/TreePanel.h>
 
 #include <QAction>
@@ -89,6 +90,12 @@ void MainWindow::ShowPlace(QPointF place) {
 
 void MainWindow::ShowZoom() { zoom_->setText(tr("%1 px/mm").arg(view_->CurrentViewport().pixelsPerMm, 0, 'g', 3)); }
 
+void MainWindow::ShowReferences() {
+  if (!session_ || session_->IsComparing() || !actions_->references->isChecked()) return view_->SetOverlay(nullptr);
+  view_->SetOverlay([labels = ReferenceLabels(session_->A(), session_->Geometry(), font())](
+                        QPainter& painter, const Viewport& viewport) { labels.Paint(painter, viewport); });
+}
+
 void MainWindow::Pick(QPointF place, double tolerance, bool extend) {
   if (!session_) return;
   const auto hit = session_->HitAt(place, tolerance);
@@ -128,6 +135,8 @@ void MainWindow::UpdateActions() {
     return nodes.size() == 1 && LayerTree::IsGroup(nodes.front());
   };
   actions_->renameGroup->setEnabled(any && isGroup());
+  for (QAction* action : actions_->layers) action->setEnabled(any);
+  actions_->onlyLayers->setEnabled(any && !session_->Trees().Layers().Selection().empty());
   actions_->next->setEnabled(comparing);
   actions_->previous->setEnabled(comparing);
 }

@@ -13,6 +13,8 @@
 #include <QMessageBox>
 #include <QToolBar>
 
+#include <functional>
+
 #include <uicomps/dialogs/DefaultActions.h>
 #include <uiox_qt/TreeView.h>
 
@@ -80,13 +82,36 @@ void MainWindow::MakeViewMenu() {
   actions_->flip->setShortcut(Qt::CTRL | Qt::Key_B);
   actions_->flip->setCheckable(true);
   connect(actions_->flip, &QAction::toggled, view_, &BoardView::SetSeenFromBack);
+  actions_->references = menu.addAction(tr("&References of components"));
+  actions_->references->setCheckable(true);
+  actions_->references->setChecked(true);
+  connect(actions_->references, &QAction::toggled, this, &MainWindow::ShowReferences);
   GiveSign(*actions_->fit, ToolSign::Fit, *actions_->bar);
   GiveSign(*actions_->zoomIn, ToolSign::ZoomIn, *actions_->bar);
   GiveSign(*actions_->zoomOut, ToolSign::ZoomOut, *actions_->bar);
   GiveSign(*actions_->flip, ToolSign::Flip, *actions_->bar);
   menu.addSeparator();
+  MakeLayerMenu(*menu.addMenu(tr("&Layers")));
   MakeUnitMenu(*menu.addMenu(tr("&Units")));
   MakeThemeMenu(*menu.addMenu(tr("&Theme")));
+}
+
+void MainWindow::MakeLayerMenu(QMenu& menu) {
+  using Shown = std::function<bool(const LayerTree&, LayerId)>;
+  const auto add = [&](const QString& text, const Shown& shown) {
+    QAction* action = Add(menu, text, {}, [this, shown] {
+      if (!session_) return;
+      LayerTree& layers = session_->Trees().Layers();
+      layers.ShowLayers([&](LayerId layer) { return shown(layers, layer); });
+    });
+    actions_->layers.append(action);
+    return action;
+  };
+  add(tr("Show &all layers"), [](const LayerTree&, LayerId) { return true; });
+  add(tr("Show &no layer"), [](const LayerTree&, LayerId) { return false; });
+  add(tr("&Invert what is shown"), [](const LayerTree& layers, LayerId layer) { return !layers.IsVisible(layer); });
+  actions_->onlyLayers =
+      add(tr("Show &only these"), [](const LayerTree& layers, LayerId layer) { return layers.IsSelected(layer); });
 }
 
 void MainWindow::MakeUnitMenu(QMenu& menu) {
@@ -123,9 +148,12 @@ void MainWindow::MakeThemeMenu(QMenu& menu) {
 
 void MainWindow::MakeSelectMenu() {
   QMenu& menu = *menuBar()->addMenu(tr("&Selection"));
-  actions_->highlight = Add(menu, tr("&Highlight"), Qt::Key_H, [this] { HighlightSelection(); });
-  actions_->isolate = Add(menu, tr("&Isolate"), Qt::Key_I, [this] { IsolateSelection(); });
+  actions_->highlight = Add(menu, tr("&Highlight"), Qt::CTRL | Qt::Key_H, [this] { HighlightSelection(); });
+  actions_->isolate = Add(menu, tr("&Isolate"), Qt::CTRL | Qt::Key_I, [this] { IsolateSelection(); });
   actions_->clear = Add(menu, tr("&Clear"), Qt::Key_Escape, [this] { ClearMarks(); });
+  // Letters alone are for the board: in a tree they begin a search.
+  actions_->highlight->setShortcuts({Qt::CTRL | Qt::Key_H, Qt::Key_H});
+  actions_->isolate->setShortcuts({Qt::CTRL | Qt::Key_I, Qt::Key_I});
   GiveSign(*actions_->highlight, ToolSign::Highlight, *actions_->bar);
   GiveSign(*actions_->isolate, ToolSign::Isolate, *actions_->bar);
   GiveSign(*actions_->clear, ToolSign::Clear, *actions_->bar);
@@ -167,7 +195,7 @@ void MainWindow::MakeContextMenus() {
        {actions_->highlight, actions_->isolate, actions_->fitSelection, actions_->netColor, actions_->noNetColor}},
       {&components_->View(), {actions_->highlight, actions_->isolate, actions_->fitSelection}},
       {&parts_->View(), {actions_->highlight, actions_->isolate, actions_->fitSelection}},
-      {&layers_->View(), {actions_->renameGroup}},
+      {&layers_->View(), actions_->layers + QList<QAction*>{actions_->renameGroup}},
       {&compare_->Panel().View(), {actions_->next, actions_->previous}},
       {view_, {actions_->highlight, actions_->isolate, actions_->clear, actions_->fit}}};
   for (const auto& [widget, actions] : menus) {
@@ -199,19 +227,21 @@ void MainWindow::SavePicture() {
 }
 
 void MainWindow::ShowShortcuts() {
-  QMessageBox::information(this, tr("Keys and mouse"),
-                           tr("<table cellpadding=3>"
-                              "<tr><td>Wheel</td><td>zoom at the pointer (Shift: sideways, Ctrl: up and down)</td></tr>"
-                              "<tr><td>Drag</td><td>move the board</td></tr>"
-                              "<tr><td>Click, Ctrl+click</td><td>select what lies there, add to the selection</td></tr>"
-                              "<tr><td>Double click, F, Home</td><td>the whole board</td></tr>"
-                              "<tr><td>+, −, arrows</td><td>zoom, move</td></tr>"
-                              "<tr><td>Ctrl+E</td><td>show the selection</td></tr>"
-                              "<tr><td>H, I, Esc</td><td>highlight, isolate, clear</td></tr>"
-                              "<tr><td>F3, Shift+F3</td><td>next and previous difference</td></tr>"
-                              "<tr><td>Double click or Enter on a layer</td><td>choose its colour</td></tr>"
-                              "<tr><td>Space on a layer</td><td>show or hide it</td></tr>"
-                              "</table>"));
+  QMessageBox::information(
+      this, tr("Keys and mouse"),
+      tr("<table cellpadding=3>"
+         "<tr><td>Wheel</td><td>zoom at the pointer (Shift: sideways, Ctrl: up and down)</td></tr>"
+         "<tr><td>Drag</td><td>move the board</td></tr>"
+         "<tr><td>Click, Ctrl+click</td><td>select what lies there, add to the selection</td></tr>"
+         "<tr><td>Double click, F, Home</td><td>the whole board</td></tr>"
+         "<tr><td>+, −, arrows</td><td>zoom, move</td></tr>"
+         "<tr><td>Ctrl+E</td><td>show the selection</td></tr>"
+         "<tr><td>Ctrl+H, Ctrl+I, Esc (on the board also H, I)</td><td>highlight, isolate, clear</td></tr>"
+         "<tr><td>A letter in a tree</td><td>narrow the tree to names with it</td></tr>"
+         "<tr><td>F3, Shift+F3</td><td>next and previous difference</td></tr>"
+         "<tr><td>Double click or Enter on a layer</td><td>choose its colour</td></tr>"
+         "<tr><td>Space on a layer</td><td>show or hide it</td></tr>"
+         "</table>"));
 }
 
 void MainWindow::ShowAbout() {

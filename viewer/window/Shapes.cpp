@@ -15,6 +15,9 @@ constexpr Nm kTolerance = 2000;
 constexpr double kToleranceMm = kTolerance * kMillimetresPerNm;
 constexpr int kMostPieces = 256;
 constexpr int kCurvePieces = 24;
+constexpr qsizetype kCornersOfPiece = 256;
+constexpr int kMostHalvings = 12;
+constexpr double kOverlapShare = 1.0 / 128;  // of an area that is halved
 
 double Mm(Nm length) { return length * kMillimetresPerNm; }
 
@@ -102,6 +105,46 @@ std::vector<QPointF> Closed(const std::vector<Point>& corners) {
   return points;
 }
 
+// The part of a closed line on one side of an upright or level line. Where it leaves that side it follows the cut and
+// comes back along it, which covers nothing.
+QPolygonF Clipped(const QPolygonF& corners, bool upright, double cut, bool keepsLower) {
+  const auto across = [&](QPointF point) { return upright ? point.x() : point.y(); };
+  const auto isKept = [&](QPointF point) { return keepsLower ? across(point) <= cut : across(point) >= cut; };
+  QPolygonF clipped;
+  for (qsizetype i = 0; i < corners.size(); ++i) {
+    const QPointF from = corners[i];
+    const QPointF to = corners[(i + 1) % corners.size()];
+    if (isKept(from)) clipped << from;
+    if (isKept(from) != isKept(to) && across(from) != cut && across(to) != cut) {
+      QPointF at = from + (to - from) * ((cut - across(from)) / (across(to) - across(from)));
+      (upright ? at.rx() : at.ry()) = cut;
+      clipped << at;
+    }
+  }
+  return clipped;
+}
+
+// Halves the area as long as it has many corners. The halves overlap a little: where they only met, pixels on the seam
+// would be covered in part by each.
+void AppendPieces(const QPolygonF& corners, int depth, std::vector<QPainterPath>& pieces) {
+  if (corners.size() < 3) return;
+  if (corners.size() <= kCornersOfPiece || depth == kMostHalvings) {
+    QPainterPath path;
+    path.addPolygon(corners);
+    path.closeSubpath();
+    pieces.push_back(std::move(path));
+    return;
+  }
+  const QRectF box = corners.boundingRect();
+  const bool upright = box.width() >= box.height();
+  const double middle = upright ? box.center().x() : box.center().y();
+  const double overlap = (upright ? box.width() : box.height()) * kOverlapShare;
+  for (const bool lower : {true, false}) {
+    const double cut = middle + (lower ? overlap : -overlap);
+    AppendPieces(Clipped(corners, upright, cut, lower), depth + 1, pieces);
+  }
+}
+
 // What a drawing covers: its inside when it is filled, and its line.
 QPainterPath DrawnPath(const Drawing& drawing) {
   const std::vector<QPointF> points = DrawingPoints(drawing);
@@ -142,20 +185,12 @@ QPainterPath CirclePath(Point center, Nm diameter) {
   return path;
 }
 
-QPainterPath PolygonPath(const Polygon& polygon) {
-  QPainterPath path;
+std::vector<QPainterPath> PiecesOf(const Polygon& polygon) {
   QPolygonF corners;
   for (const Point point : Flattened(polygon, kTolerance)) corners << ToMillimetres(point);
-  path.addPolygon(corners);
-  path.closeSubpath();
-  return path;
-}
-
-QPainterPath PolygonPath(const std::vector<Polygon>& polygons) {
-  QPainterPath path;
-  path.setFillRule(Qt::OddEvenFill);
-  for (const Polygon& polygon : polygons) path.addPath(PolygonPath(polygon));
-  return path;
+  std::vector<QPainterPath> pieces;
+  AppendPieces(corners, 0, pieces);
+  return pieces;
 }
 
 std::vector<QPointF> ArcPoints(Point start, Point mid, Point end) {

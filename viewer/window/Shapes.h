@@ -17,9 +17,9 @@ QPainterPath PadPath(const Pad& pad);
 /// The hole of a pad; empty without one.
 QPainterPath HolePath(const Pad& pad);
 QPainterPath CirclePath(Point center, Nm diameter);
-/// A closed line; further ones are cut out of it.
-QPainterPath PolygonPath(const std::vector<Polygon>& polygons);
-QPainterPath PolygonPath(const Polygon& polygon);
+/// The inside of a closed line, cut into pieces of a few hundred corners each, which overlap a
+/// little.
+std::vector<QPainterPath> PiecesOf(const Polygon& polygon);
 
 /// Points along an arc through three points, both ends included. Three points on one line give that line.
 std::vector<QPointF> ArcPoints(Point start, Point mid, Point end);

@@ -1,7 +1,8 @@
 #include <viewer/window/Theme.h>
 
+#include <viewer/window/ThemeStyle.h>
+
 #include <QApplication>
-#include <QStyleFactory>
 
 namespace oxviewer {
 namespace {
@@ -73,7 +74,7 @@ QPalette PaletteOf(Theme theme, const QPalette& system) {
 
 void ApplyTheme(Theme theme) {
   static const QPalette system = QApplication::palette();
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setStyle(new ThemeStyle);
   QApplication::setPalette(PaletteOf(theme, system));
 }
 

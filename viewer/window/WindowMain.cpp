@@ -39,7 +39,7 @@ int Show(const LoadedBoards& boards, int& argc, char** argv) {
   ApplyTheme(remembered.theme);
   uiox_qt::QtFront front;
   MainWindow window(front, remembered, true);
-  window.resize(boards.b ? 1500 : 1280, 860);
+  window.resize(boards.b ? 1640 : 1280, 860);
   window.ShowBoards(boards);
   window.show();
   return QApplication::exec();

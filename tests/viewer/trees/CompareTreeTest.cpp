@@ -122,9 +122,9 @@ TEST_F(CompareTreeTest, SelectedHeadingStandsForAllBelowIt) {
 }
 
 TEST_F(CompareTreeTest, FilterTextIsFoundInNamesAndDifferences) {
-  EXPECT_TRUE(Tree().Matches(Subject("net:N10"), "n1"));
-  EXPECT_TRUE(Tree().Matches(Subject("net:N10"), "TRACK"));
-  EXPECT_FALSE(Tree().Matches(Subject("net:N9"), "track"));
+  EXPECT_TRUE(Tree().Matches(Subject("net:N10"), HoldingText("n1")));
+  EXPECT_TRUE(Tree().Matches(Subject("net:N10"), HoldingText("TRACK")));
+  EXPECT_FALSE(Tree().Matches(Subject("net:N9"), HoldingText("track")));
 }
 
 TEST(CompareTreeNodes, OfComponentsThatShareAReferenceAreDifferent) {

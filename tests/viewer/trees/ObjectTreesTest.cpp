@@ -126,10 +126,12 @@ TEST_F(ObjectTreesTest, FilterCountsWhatItLeaves) {
   EXPECT_EQ(PartsLabel("kind:3"), L"<b>Resistors (2)</b>");
 }
 
-TEST_F(ObjectTreesTest, FilterKeepsWhichKindsAreExpanded) {
+TEST_F(ObjectTreesTest, FilterShowsWhatItLeavesAndThenEverythingAsItWas) {
   ASSERT_TRUE(parts_.Expand(PartTree::kName, "kind:3"));
-  trees_.Parts().SetFilter("R1");
+  trees_.Parts().SetFilter("1");
   EXPECT_TRUE(trees_.Parts().GetNodeExpanded("kind:3"));
+  EXPECT_TRUE(trees_.Parts().GetNodeExpanded("kind:5"));
+  trees_.Parts().SetFilter("10");
   trees_.Parts().SetFilter("");
   EXPECT_TRUE(trees_.Parts().GetNodeExpanded("kind:3"));
   EXPECT_FALSE(trees_.Parts().GetNodeExpanded("kind:5"));
@@ -150,13 +152,16 @@ TEST_F(ObjectTreesTest, SelectedKindStandsForItsParts) {
   EXPECT_EQ(SelectedParts(), Names{"R2"});
 }
 
-TEST_F(ObjectTreesTest, FilterEndsTheSelectionOfParts) {
+TEST_F(ObjectTreesTest, FilteredPartsAreNotSelectedUntilTheyAreShownAgain) {
   ASSERT_TRUE(parts_.Select(PartTree::kName, {"component:R2"}));
   int told = 0;
   trees_.Parts().SetOnSelection([&] { ++told; });
   trees_.Parts().SetFilter("C");
   EXPECT_EQ(SelectedParts(), Names{});
   EXPECT_EQ(told, 1);
+  trees_.Parts().SetFilter("");
+  EXPECT_EQ(SelectedParts(), Names{"R2"});
+  EXPECT_EQ(told, 2);
 }
 
 TEST_F(ObjectTreesTest, ActivatedPartIsTold) {
