@@ -1,8 +1,14 @@
 #include <uiox/detail/JsonValue.h>
 
 #include <nlohmann/json.hpp>
+#include <utility>
 
 namespace uiox::detail {
+
+JsonValue::JsonValue() = default;
+JsonValue::JsonValue(JsonValue&&) noexcept = default;
+JsonValue& JsonValue::operator=(JsonValue&&) noexcept = default;
+JsonValue::~JsonValue() = default;
 
 const JsonValue* JsonValue::Find(std::string_view key) const {
   for (const auto& entry : entries) {
@@ -61,7 +67,8 @@ class Builder : public nlohmann::json_sax<nlohmann::json> {
     if (open_.empty()) return root_;
     JsonValue& parent = *open_.back();
     if (parent.kind == JsonValue::kArray) return parent.elements.emplace_back();
-    return parent.entries.emplace_back(std::move(key_), JsonValue{}).second;
+    parent.entries.push_back({std::move(key_), JsonValue()});
+    return parent.entries.back().second;
   }
   bool Put(JsonValue value) {
     Place() = std::move(value);

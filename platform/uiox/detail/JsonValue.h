@@ -8,10 +8,11 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace uiox::detail {
+
+struct JsonEntry;
 
 /// A value. Unlike the parser library's own it is ended without memory, so that a lack of it stays an exception.
 struct JsonValue {
@@ -21,11 +22,21 @@ struct JsonValue {
   bool flag = false;
   std::int64_t integer = 0;
   std::string text;
-  std::vector<JsonValue> elements;                         // of an array
-  std::vector<std::pair<std::string, JsonValue>> entries;  // of an object, in the order of the text
+  std::vector<JsonValue> elements;  // of an array
+  std::vector<JsonEntry> entries;   // of an object, in the order of the text
 
+  JsonValue();
+  JsonValue(JsonValue&&) noexcept;
+  JsonValue& operator=(JsonValue&&) noexcept;
+  ~JsonValue();
   /// The value of a key of an object, or null.
   const JsonValue* Find(std::string_view key) const;
+};
+
+/// A key of an object and its value.
+struct JsonEntry {
+  std::string first;
+  JsonValue second;
 };
 
 /// What is wrong with a description, and where ("components[2].class: …").

@@ -68,6 +68,8 @@ inline std::wstring_view WideOf(Slot slot) {
   return slot.Wide() ? std::wstring_view(slot.Wide()) : std::wstring_view();
 }
 inline std::string_view TextOf(Slot slot) { return slot.Text() ? std::string_view(slot.Text()) : std::string_view(); }
+/// The number of the node type that a slot names.
+inline TypeId TypeOf(Slot slot) { return Suite::Get().Types().Intern(TextOf(slot)); }
 
 /// Whether every answer has a place to go to. A list's array may be left out.
 inline bool HasPlaces(const Call& call) {

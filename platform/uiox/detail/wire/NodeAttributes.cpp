@@ -9,8 +9,6 @@ using oxecad_ui::toolkit::NodeOption;
 
 namespace {
 
-TypeId TypeOf(Slot slot) { return Suite::Get().Types().Intern(TextOf(slot)); }
-
 void Set(TreeStore& store, NodeId node, NodeAttribute attribute, Slot value) {
   switch (attribute) {
     case NodeAttribute::Label:

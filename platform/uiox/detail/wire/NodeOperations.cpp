@@ -25,8 +25,6 @@ bool FindSibling(const TreeWidget& tree, Slot slot, NodeId& sibling) {
   return sibling != kNoNode;
 }
 
-TypeId TypeOf(Slot slot) { return Suite::Get().Types().Intern(TextOf(slot)); }
-
 /// The part of a new node that options give.
 void ReadOptions(const Call& call, NewNode& node) {
   for (const Option& option : call) {
