@@ -14,6 +14,7 @@ packages_build=(g++ cmake ninja-build)
 packages_platform=(nlohmann-json3-dev libutfcpp-dev libpng-dev)
 packages_front=(qt6-base-dev fonts-dejavu-core)
 packages_test=(pkg-config locales libgtest-dev librapidcheck-dev kicad-demos doxygen abigail-tools)
+packages_packaging=(dpkg-dev fakeroot file lintian gdb)
 packages_bench=(libbenchmark-dev)
 packages_fuzz=(clang libclang-rt-14-dev)
 
