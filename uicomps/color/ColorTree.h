@@ -30,18 +30,20 @@ namespace oxecad_ui {
 /// 2 check, 3 selection, 4 expanded, 5 collapsed.
 class OXECAD_UI_EXPORT ColorTree : public Tree {
  public:
+  /// A node with its colour.
   struct OXECAD_UI_EXPORT ColorNodeInfo : NodeInfo {
     ColorNodeInfo() = default;
     ColorNodeInfo(const ColorNodeInfo&) = default;
     ColorNodeInfo& operator=(const ColorNodeInfo&) = default;
     ~ColorNodeInfo() override;
 
-    unsigned int color = 0xFFFFFFFFu;
+    unsigned int color = 0xFFFFFFFFu;  ///< 0x00BBGGRR, 0xFFFFFFFF for none
   };
 
   /// Stands in the type of a node that has no colour.
   static constexpr const char* s_colorlessType = "colorless";
 
+  /// Names the tree, as `Component` does; calls nothing.
   ColorTree(const char* device, const char* name);
   ColorTree(const ColorTree&) = default;
   ColorTree& operator=(const ColorTree&) = default;
@@ -77,7 +79,9 @@ class OXECAD_UI_EXPORT ColorTree : public Tree {
   /// Adds a node of a colour. `c1` becomes the toolkit's third int of the node, `c2` and `c3` the first and second.
   bool AddNode(const char* name, const wchar_t* label, const char* parent, unsigned int color, int c1,
                const wchar_t* text2, int c2, int c3);
+  /// As `AddNode` with the same record, placed before a sibling; null means the end.
   bool AddNodeBefore(const ColorNodeInfo& info, const char* before);
+  /// As `AddNode` with the same values, placed before a sibling; null means the end.
   bool AddNodeBefore(const char* name, const wchar_t* label, const char* parent, const char* before, unsigned int color,
                      int c1, const wchar_t* text2, int c2, int c3);
 
@@ -97,8 +101,8 @@ class OXECAD_UI_EXPORT ColorTree : public Tree {
   void AddSingleCheckBranch(const char* node);
 
  protected:
-  static constexpr const char* s_mixType = "mix";
-  static constexpr const char* s_image = "color_square.png";
+  static constexpr const char* s_mixType = "mix";             ///< the type of a node without a single colour
+  static constexpr const char* s_image = "color_square.png";  ///< what the icons of colours are made of
 
   /// A new `ColorNodeInfo`.
   NodeInfo* GetNodeInfo(const char* node) const override;

@@ -35,23 +35,25 @@ namespace oxecad_ui {
 /// toggled.
 class OXECAD_UI_EXPORT CompareColorTree : public Tree {
  public:
+  /// Which of two designs are shown; the platform's.
   using ShowMode = oxk::ecad::CompareColorVis::ShowMode;
 
   /// In which designs a node exists; a set of bits.
   enum DesignFlag : std::uint32_t { DesignNone = 0, DesignA = 1, DesignB = 2, DesignBoth = 3 };
 
+  /// A compare node with its five values and where it exists.
   struct OXECAD_UI_EXPORT CompareNodeInfo : NodeInfo {
     CompareNodeInfo() = default;
     CompareNodeInfo(const CompareNodeInfo&) = default;
     CompareNodeInfo& operator=(const CompareNodeInfo&) = default;
     ~CompareNodeInfo() override;
 
-    unsigned int colorA = 0xFFFFFFFFu;
-    unsigned int colorB = 0xFFFFFFFFu;
-    unsigned int colorOverlap = 0xFFFFFFFFu;
-    ShowMode showMode = ShowMode::Both;
-    NodeState dim = Unchecked;
-    DesignFlag designFlag = DesignNone;
+    unsigned int colorA = 0xFFFFFFFFu;        ///< in design A
+    unsigned int colorB = 0xFFFFFFFFu;        ///< in design B
+    unsigned int colorOverlap = 0xFFFFFFFFu;  ///< where both overlap
+    ShowMode showMode = ShowMode::Both;       ///< `Mixed` where children differ
+    NodeState dim = Unchecked;                ///< of the box that dims the overlap
+    DesignFlag designFlag = DesignNone;       ///< decides which colour cells are filled
   };
 
   /// Takes compare nodes; the first other node ends its list of siblings.
@@ -61,19 +63,23 @@ class OXECAD_UI_EXPORT CompareColorTree : public Tree {
     Result operator()(const NodeInfo& info) const override;
   };
 
+  /// The type of compare nodes.
   static constexpr const char* s_compareType = "colorvis";
-  static constexpr const char* s_showModeColumn = "showMode";
-  static constexpr const char* s_dimColumn = "dimOverlap";
-  static constexpr const char* s_colorAColumn = "a";
-  static constexpr const char* s_colorBColumn = "b";
-  static constexpr const char* s_overlapColumn = "overlap";
-  /// The one option menu, moved into the cell that is clicked, and its option that stands for no choice.
+  static constexpr const char* s_showModeColumn = "showMode";  ///< column of the show mode
+  static constexpr const char* s_dimColumn = "dimOverlap";     ///< column of the box that dims the overlap
+  static constexpr const char* s_colorAColumn = "a";           ///< column of the colour in design A
+  static constexpr const char* s_colorBColumn = "b";           ///< column of the colour in design B
+  static constexpr const char* s_overlapColumn = "overlap";    ///< column of the colour of the overlap
+  /// The one option menu, moved into the cell that is clicked.
   static constexpr const char* s_showModeMenu = "ShowModeOM";
+  /// The menu's option that stands for no choice.
   static constexpr const char* s_noShowMode = "none";
-  /// What a colour cell's label has before and behind the name of the colour's icon.
+  /// What a colour cell's label has before the name of the colour's icon.
   static constexpr const wchar_t* s_imgOpen = L"<img src=\"";
+  /// What a colour cell's label has behind the name of the colour's icon.
   static constexpr const wchar_t* s_imgClose = L"\">";
 
+  /// Names the tree, as `Component` does; calls nothing.
   CompareColorTree(const char* device, const char* component);
   /// The copy works on the same widget and the same controls; the destructor of each destroys the controls.
   CompareColorTree(const CompareColorTree&) = default;
@@ -89,6 +95,7 @@ class OXECAD_UI_EXPORT CompareColorTree : public Tree {
   /// becomes the colour picker's parent.
   void Init(oxcore::Mainframe* mainframe);
 
+  /// These four do nothing: the values are changed in the cells.
   void OnActivate(const char* node) override;
   void OnCollapse(const char* node) override;
   void OnExpand(const char* node) override;
@@ -102,6 +109,7 @@ class OXECAD_UI_EXPORT CompareColorTree : public Tree {
   /// Adds a compare node, whose type must be "colorvis", writes its cells and sums up above it. Gives false also when
   /// the node was added and could not be set up. Linear in the number of siblings.
   bool AddNode(const CompareNodeInfo& info);
+  /// As `AddNode`, placed before a sibling; null means the end.
   bool AddNodeBefore(const CompareNodeInfo& info, const char* before);
 
   /// Gives six values to a compare node and its branch, and sums up above. Does nothing for any other node.

@@ -22,6 +22,7 @@ class SortedNames;
 /// that.
 class OXECAD_UI_EXPORT Tree : public BaseTree {
  public:
+  /// What a node's check box shows.
   enum NodeState : std::uint32_t {
     Unchecked = 0,
     Checked = 1,
@@ -47,22 +48,24 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
     std::string name;
     /// The text shown, as markup. Empty in a record to be added: the name behind its parent's part is shown.
     std::wstring label;
-    std::string type;
-    NodeState state = Unchecked;
-    bool expanded = false;
+    std::string type;             ///< the name of the toolkit's node type
+    NodeState state = Unchecked;  ///< of the check box
+    bool expanded = false;        ///< whether the children are shown
   };
 
   /// Records in the order in which a walk met them: a node before its subtree. A copy shares the records and does not
   /// own them.
   struct OXECAD_UI_EXPORT TreeInfo {
     TreeInfo() = default;
+    /// Shares the records of `other`, which must live as long.
     TreeInfo(const TreeInfo& other);
+    /// Clears what was there and shares the records of `other`.
     TreeInfo& operator=(const TreeInfo& other);
     ~TreeInfo();
     /// Drops all records; deletes them when they are owned.
     void Clear();
 
-    std::vector<NodeInfo*> records;
+    std::vector<NodeInfo*> records;  ///< none of them null unless the caller put it there
     /// Whether the records are deleted when they are cleared and with this object.
     bool ownsRecords = true;
   };
@@ -70,6 +73,7 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
   /// Says for each node of a walk what to do with it.
   class OXECAD_UI_EXPORT NodeFilter {
    public:
+    /// What a walk does with a node.
     enum Result : int {
       Accept = 0,       ///< take the node and walk its children
       SkipNode = 1,     ///< leave the node out and walk its children
@@ -81,7 +85,9 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
     NodeFilter(const NodeFilter&) = default;
     NodeFilter& operator=(const NodeFilter&) = default;
     virtual ~NodeFilter();
+    /// Asks about a node by its name; the tree may be null.
     virtual Result operator()(const Tree* tree, const char* node) const = 0;
+    /// Asks about a node by its record.
     virtual Result operator()(const NodeInfo& info) const = 0;
   };
 
@@ -104,8 +110,9 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
   template <class C>
   class NodeInfoLabelComperator : public CComparator<NodeInfo> {
    public:
+    /// Whether the label of `a` goes before that of `b`.
     bool Compare(const NodeInfo& a, const NodeInfo& b) const override { return comparator.Compare(a.label, b.label); }
-    C comparator;
+    C comparator;  ///< orders the labels
   };
 
   /// Is called after a user's change with the first client pointer and the reason as a number: 1 colour or value
@@ -113,9 +120,11 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
   /// Its result is ignored. It may destroy the tree.
   using DirtyHandler = int (*)(void* client, void* reason);
 
+  /// Names the tree, as `Component` does; calls nothing.
   Tree(const char* device, const char* name);
   /// The copy works on the same widget, with a copy of the memory of inserted names, the same handler and clients.
   Tree(const Tree& other);
+  /// As the copy; assigning a tree to itself changes nothing.
   Tree& operator=(const Tree& other);
   ~Tree() override;
 
@@ -162,6 +171,7 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
   /// Whether trees that do something on activation may do it; they may at first.
   void SetAllowActivate(bool allow);
 
+  /// Sets a node's check box alone: parents and children stay as they are.
   bool SetNodeState(const char* node, NodeState state) const;
   /// `Unchecked` when it cannot be read.
   NodeState GetNodeState(const char* node) const;
@@ -210,6 +220,7 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
   /// Reads name, label, state, type and expanded flag of a node, whose name is not null, in this order.
   void FillNodeInfo(const char* node, NodeInfo& info) const;
 
+  /// Whether `SetOnDirtyHandler` gave a handler.
   bool HasDirtyHandler() const { return m_dirtyHandler != nullptr; }
   /// Calls the dirty handler, which must be there. The tree may be gone afterwards.
   void CallDirtyHandler(DirtyReason reason) const;
@@ -218,7 +229,9 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
   void NotifyNode(const std::string& node, DirtyReason reason) const;
   /// The second client pointer as the list of changed node names that colour and compare trees keep; may be null.
   std::vector<std::string>* ChangedNodes() const;
+  /// The second client pointer of `SetOnDirtyHandler`; not owned, may be null.
   void* SecondClient() const { return m_client2; }
+  /// What `SetAllowActivate` gave.
   bool IsActivateAllowed() const { return m_allowActivate; }
 
  private:

@@ -27,13 +27,14 @@ namespace oxecad_ui {
 /// number.
 class OXECAD_UI_EXPORT UserDataTree : public Tree {
  public:
+  /// A node with the application's pointer.
   struct OXECAD_UI_EXPORT DataNodeInfo : NodeInfo {
     DataNodeInfo() = default;
     DataNodeInfo(const DataNodeInfo&) = default;
     DataNodeInfo& operator=(const DataNodeInfo&) = default;
     ~DataNodeInfo() override;
 
-    void* data = nullptr;
+    void* data = nullptr;  ///< the application's, not owned; of a counted branch its number
   };
 
   /// Keeps a copy of the leaf type.
@@ -47,6 +48,7 @@ class OXECAD_UI_EXPORT UserDataTree : public Tree {
 
   /// Adds a node at the end of its parent's children. Gives whether it was added and its check state set.
   bool AddNode(const DataNodeInfo& info);
+  /// As `AddNode`, placed before a sibling; null means the end.
   bool AddNodeBefore(const DataNodeInfo& info, const char* before);
   /// Replaces the whole tree by records, which must be `DataNodeInfo`s; null pointers and refused nodes are passed
   /// over. One redraw. Linear in the number of nodes before and after.
