@@ -8,15 +8,15 @@ namespace {
 
 bool g_library_works = false;
 bool g_counting = false;
-bool g_all_later = false;
 bool g_failed = false;
 long g_count = 0;
 long g_failing = 0;
+torture::Spread g_spread = torture::Spread::Once;
 
 bool FailsNow() {
   if (!g_library_works || !g_counting) return false;
   ++g_count;
-  const bool fails = g_failing != 0 && (g_count == g_failing || (g_all_later && g_count > g_failing));
+  const bool fails = torture::Fails(g_count, g_failing, g_spread);
   g_failed = g_failed || fails;
   return fails;
 }
@@ -42,9 +42,9 @@ void operator delete[](void* block, std::size_t) noexcept { std::free(block); }
 
 namespace torture {
 
-void Allocations::Start(long failing, bool and_all_later) {
+void Allocations::Start(long failing, Spread spread) {
   g_counting = true;
-  g_all_later = and_all_later;
+  g_spread = spread;
   g_failed = false;
   g_count = 0;
   g_failing = failing;

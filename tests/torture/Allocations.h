@@ -3,14 +3,16 @@
 #ifndef OXECAD_TESTS_TORTURE_ALLOCATIONS_H
 #define OXECAD_TESTS_TORTURE_ALLOCATIONS_H
 
+#include <tests/torture/Spread.h>
+
 namespace torture {
 
 /// What allocations are counted: those made between `EnterLibrary` and the end of its scope, but for those that the
 /// toolkit makes meanwhile.
 class Allocations {
  public:
-  /// Counts from 0 again. The n-th allocation fails (0: none), and all behind it too with `and_all_later`.
-  static void Start(long failing, bool and_all_later);
+  /// Counts from 0 again. The n-th allocation fails (0: none), and those behind it that the spread says.
+  static void Start(long failing, Spread spread);
   /// Neither counts nor fails any until `Resume`.
   static void Pause();
   static void Resume();

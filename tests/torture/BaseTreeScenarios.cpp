@@ -65,11 +65,11 @@ void Reads(Stage& stage) {
   Play<BaseTree> tree(stage);
   stage.Calm();
   tree->Init();
-  for (const char* name : {"root", "a", "b"}) Add(*tree, name, name[0] == 'r' ? "" : "root");
+  for (const char* name : {"root", "a", "b", "c", "d", "e"}) Add(*tree, name, name[0] == 'r' ? "" : "root");
   stage.Storm();
   stage.Step("has root", [&] { return tree->HasRoot(); });
   stage.Step("background", [&] { return tree->GetBackgroundColor(); });
-  for (const char* node : {"root", "a", "nowhere"}) {
+  for (const char* node : {"root", "a", "b", "c", "d", "e", "nowhere", ""}) {
     stage.Step("label", [&] { return tree->GetNodeLabel(node); });
     stage.Step("type", [&] { return tree->GetNodeType(node); });
     stage.Step("parent", [&] { return tree->GetParent(node); });

@@ -39,7 +39,9 @@ void Build(ColorTree& tree) {
   tree.AddNode(Colored("power", 1));
   tree.AddNode(Colored("power/GND", 0x0000FF));
   tree.AddNode(Colored("power/VCC", 0x00FF00));
+  for (const char* name : {"power/+3V3", "power/+5V", "power/-12V"}) tree.AddNode(Colored(name, 0x00FF00));
   tree.AddNode(Colored("clock", 0xFF0000));
+  for (const char* name : {"clock/A", "clock/B"}) tree.AddNode(Colored(name, 0xFF0000));
   tree.AddNode(Colored("notes", 0, "colorless"));
 }
 
@@ -48,7 +50,7 @@ void Icons(Stage& stage) {
   for (const unsigned color : {1u, 0xFF00FFu, 1u, 0xFFFFFFFFu, 0x80123456u}) {
     stage.Step("icon", [&] { return ColorIconBag::Get().GetColorIcon("color_square.png", color); });
   }
-  stage.Step("no image", [&] { return ColorIconBag::Get().GetColorIcon("no such image.png", 1); });
+  stage.StepOfAnyResult("no image", [&] { return ColorIconBag::Get().GetColorIcon("no such image.png", 1); });
   stage.Step("color", [&] { return ColorIconBag::Get().GetColorFromIcon("color_square.png_255", "color_square.png"); });
 }
 
@@ -88,6 +90,9 @@ void Changing(Stage& stage) {
   stage.Step("given", [&] { tree->ChangeNodeColor("power", 0x00FFFFu); });
   stage.Step("down", [&] { tree->ParentColorChanged("root", 7); });
   stage.Step("one", [&] { tree->SetNodeColor("power/GND", 8); });
+  for (const char* node : {"clock", "clock/A", "power/+5V", "notes", "nowhere"}) {
+    stage.Step("given", [&] { static_cast<ColorTree&>(*tree).ChangeNodeColor(node, 0x00FFFFu); });
+  }
   stage.Step("up", [&] { tree->ChildColorChanged("power"); });
   stage.StepOfAnyResult("type", [&] { return std::string(tree->GetType(9)); });
   oxcore::QueueColorAnswer(0x123456);

@@ -40,6 +40,12 @@ void Build(CompareColorTree& tree) {
   tree.AddNode(Compared("net", 1, 2));
   tree.AddNode(Compared("net/pads", 1, 2));
   tree.AddNode(Compared("net/tracks", 3, 0, CompareColorTree::DesignA));
+  tree.AddNode(Compared("net/vias", 0, 3, CompareColorTree::DesignB));
+  // Deeper branches are moved there.
+  for (const char* name : {"net/pads/1", "net/pads/2"}) tree.AddNode(Compared(name, 1, 2));
+  for (const char* name : {"net/pads/1", "net/pads/2"}) tree.MoveNodeBefore(name, "net/pads", nullptr);
+  tree.AddNode(Compared("other", 1, 2));
+  tree.AddNode(Compared("other/pads", 1, 1));
 }
 
 void Adding(Stage& stage) {
@@ -52,9 +58,13 @@ void Adding(Stage& stage) {
   heading.type = "heading";
   stage.Step("add a heading", [&] { return tree->AddNode(heading); });
   const CompareColorTree::CompareNodeInfo records[] = {
-      Compared("net", 1, 2), Compared("net/pads", 1, 2),
+      Compared("net", 1, 2),
+      Compared("net/pads", 1, 2),
       Compared("net/a name that is long enough for the heap", 3, 0, CompareColorTree::DesignA),
-      Compared("net/vias", 0, 4, CompareColorTree::DesignB)};
+      Compared("net/vias", 0, 4, CompareColorTree::DesignB),
+      Compared("other", 5, 6),
+      Compared("other/pads", 5, 6),
+      Compared("other/tracks", 7, 6)};
   for (const CompareColorTree::CompareNodeInfo& record : records) {
     stage.Step("add", [&] { return tree->AddNode(record); });
   }
@@ -89,6 +99,11 @@ void Changing(Stage& stage) {
   stage.Step("one", [&] {
     tree->ChangeNodeInfo("net/pads", 5, 6, 7, ShowMode::Mixed, Tree::Checked, CompareColorTree::DesignBoth);
   });
+  for (const char* node : {"other", "other/pads", "net/pads/1", "root", "nowhere"}) {
+    stage.Step("each", [&] {
+      tree->ChangeNodeInfo(node, 5, 5, 5, ShowMode::Overlap, Tree::Unchecked, CompareColorTree::DesignA);
+    });
+  }
   stage.Step("up", [&] { tree->ChildInfoChanged("net"); });
   stage.Step("a list", [&] { tree->ChangeNodeInfo(Names{"net"}); });
 }

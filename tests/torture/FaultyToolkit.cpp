@@ -80,11 +80,11 @@ FaultyToolkit::~FaultyToolkit() {
   g_current = nullptr;
 }
 
-void FaultyToolkit::Start(long failing, Failure failure, bool and_all_later) {
+void FaultyToolkit::Start(long failing, Failure failure, Spread spread) {
   count_ = 0;
   failing_ = failing;
   failure_ = failure;
-  all_later_ = and_all_later;
+  spread_ = spread;
   active_ = true;
   failed_ = false;
 }
@@ -92,7 +92,7 @@ void FaultyToolkit::Start(long failing, Failure failure, bool and_all_later) {
 bool FaultyToolkit::FailsNow() {
   if (!active_) return false;
   ++count_;
-  const bool fails = failing_ != 0 && (count_ == failing_ || (all_later_ && count_ > failing_));
+  const bool fails = Fails(count_, failing_, spread_);
   failed_ = failed_ || fails;
   return fails;
 }

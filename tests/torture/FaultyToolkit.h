@@ -6,6 +6,7 @@
 #include <tests/support/HandOuts.h>
 #include <tests/support/RecordingToolkit.h>
 #include <tests/support/Script.h>
+#include <tests/torture/Spread.h>
 #include <uiox/Backend.h>
 
 #include <string>
@@ -25,8 +26,8 @@ class FaultyToolkit : public uiox::Backend {
   FaultyToolkit();
   ~FaultyToolkit() override;
 
-  /// Counts from 0 again. The n-th call fails (0: none), and all behind it too with `and_all_later`.
-  void Start(long failing, Failure failure, bool and_all_later);
+  /// Counts from 0 again. The n-th call fails (0: none), and those behind it that the spread says.
+  void Start(long failing, Failure failure, Spread spread);
   /// Neither counts nor fails calls from now on; `Resume` goes on where it stopped.
   void Pause() { active_ = false; }
   void Resume() { active_ = true; }
@@ -55,7 +56,7 @@ class FaultyToolkit : public uiox::Backend {
   Failure failure_ = Failure::Refused;
   long count_ = 0;
   long failing_ = 0;
-  bool all_later_ = false;
+  Spread spread_ = Spread::Once;
   bool active_ = true;
   bool failed_ = false;
 };

@@ -24,7 +24,7 @@ std::string Text(const Injection& injection) {
   std::string text = injection.kind == Injection::Call
                          ? "call " + std::to_string(injection.at) + ' ' + Name(injection.failure)
                          : "allocation " + std::to_string(injection.at) + " fails";
-  return injection.and_all_later ? text + ", and all later ones" : text;
+  return text + Name(injection.spread);
 }
 
 std::string ResultText(bool value) { return value ? "true" : "false"; }
@@ -51,8 +51,8 @@ Stage::Stage(const Injection& injection, std::vector<StepRecord>& records) : inj
   g_told.clear();
   g_strict = std::make_unique<uiox::StrictMode>([](const std::string& line) { g_told.push_back(line); });
   const bool calls = injection.kind == Injection::Call;
-  toolkit_.Start(calls ? injection.at : 0, injection.failure, injection.and_all_later);
-  Allocations::Start(calls ? 0 : injection.at, injection.and_all_later);
+  toolkit_.Start(calls ? injection.at : 0, injection.failure, injection.spread);
+  Allocations::Start(calls ? 0 : injection.at, injection.spread);
 }
 
 Stage::~Stage() {
@@ -100,8 +100,8 @@ void Stage::Judge(const std::string& what, const std::optional<std::string>& fai
     }
     return;
   }
-  const bool all_refused =
-      injection_.and_all_later && (injection_.failure == Failure::Refused || injection_.failure == Failure::Scribbled);
+  const bool all_refused = injection_.spread == Spread::AllLater &&
+                           (injection_.failure == Failure::Refused || injection_.failure == Failure::Scribbled);
   if (all_refused && calls > 0 && result != *failed) Complain(what + " gave " + result + " and not " + *failed);
 }
 

@@ -23,7 +23,7 @@ struct Injection {
   enum Kind { Call, Allocation } kind = Call;
   long at = 0;
   Failure failure = Failure::Refused;
-  bool and_all_later = false;
+  Spread spread = Spread::Once;
 };
 std::string Text(const Injection& injection);
 

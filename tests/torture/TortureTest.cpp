@@ -25,9 +25,10 @@ std::vector<Scenario> AllScenarios() {
 namespace {
 
 constexpr int kMostFailures = 5;
-/// Ways of a call to fail, each once and from then on.
-constexpr int kCallWays = 2 * static_cast<int>(std::size(test_support::kAllFailures));
-constexpr int kAllocationWays = 2;
+constexpr int kSpreads = static_cast<int>(std::size(kAllSpreads));
+/// Ways of a call to fail, and of an allocation.
+constexpr int kCallWays = kSpreads * static_cast<int>(std::size(test_support::kAllFailures));
+constexpr int kAllocationWays = kSpreads;
 
 bool AllInjections() {
   const char* wanted = std::getenv("OXECAD_LONG_TESTS");
@@ -127,14 +128,16 @@ class Torture : public testing::TestWithParam<Scenario> {
   void FailCalls() {
     for (long at = 1; at <= totals_.calls; ++at) {
       for (int way = 0; way < kCallWays && failures_ < kMostFailures; ++way) {
-        if (IsWanted(at, way)) Run({Injection::Call, at, test_support::kAllFailures[way / 2], way % 2 == 1});
+        if (IsWanted(at, way)) {
+          Run({Injection::Call, at, test_support::kAllFailures[way / kSpreads], kAllSpreads[way % kSpreads]});
+        }
       }
     }
   }
   void FailAllocations() {
     for (long at = 1; at <= totals_.allocations; ++at) {
       for (int way = 0; way < kAllocationWays && failures_ < kMostFailures; ++way) {
-        if (IsWanted(at, way * 5)) Run({Injection::Allocation, at, {}, way == 1});
+        if (IsWanted(at, way)) Run({Injection::Allocation, at, {}, kAllSpreads[way]});
       }
     }
   }
@@ -153,6 +156,22 @@ TEST_P(Torture, LosesLeaksAndHangsNothing) {
   FailAllocations();
   std::cout << runs_ << " of " << totals_.Injections() << " injections (" << totals_.calls << " calls, "
             << totals_.allocations << " allocations)\n";
+}
+
+/// What all runs of all scenarios come to, without making them.
+TEST(TortureCount, IsLargeEnough) {
+  Totals all;
+  for (const Scenario& scenario : AllScenarios()) {
+    if (scenario.in_fresh_process) continue;
+    std::vector<StepRecord> records;
+    Stage stage({}, records);
+    scenario.play(stage);
+    all.calls += stage.Calls();
+    all.allocations += Allocations::Count();
+    EXPECT_EQ(stage.Finish(), std::vector<std::string>()) << scenario.name;
+  }
+  std::cout << all.Injections() << " injections in all, besides those in processes of their own\n";
+  EXPECT_GE(all.Injections(), 100'000);
 }
 
 std::string NameOf(const testing::TestParamInfo<Scenario>& info) { return info.param.name; }

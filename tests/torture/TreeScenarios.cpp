@@ -22,7 +22,7 @@ Tree::NodeInfo Record(const char* name, Tree::NodeState state = Tree::Unchecked)
 void Build(Tree& tree) {
   static_cast<BaseTree&>(tree).AddNode("root", L"root", "", "type", L"", 1, 1, 0, nullptr);
   for (const char* name : {"nets", "parts"}) tree.AddNode(Record(name, Tree::PartlyChecked));
-  for (const char* name : {"nets/R10", "nets/R9", "nets/R1", "parts/B", "parts/A"}) {
+  for (const char* name : {"nets/R10", "nets/R9", "nets/R1", "nets/R2", "nets/R3", "parts/B", "parts/A", "parts/C"}) {
     tree.AddNode(Record(name, Tree::Checked));
   }
 }
@@ -56,7 +56,7 @@ void States(Stage& stage) {
   stage.Calm();
   Build(*tree);
   stage.Storm();
-  for (const char* node : {"nets", "nets/R9", "nowhere"}) {
+  for (const char* node : {"nets", "nets/R9", "nets/R1", "parts", "parts/A", "nowhere"}) {
     for (const Tree::NodeState state : {Tree::Unchecked, Tree::Checked, Tree::PartlyChecked}) {
       stage.Step("set state", [&] { return tree->SetNodeState(node, state); });
       stage.Step("state", [&] { return int(tree->GetNodeState(node)); });

@@ -9,7 +9,7 @@ using oxecad_ui::BaseTree;
 using oxecad_ui::Tree;
 using oxecad_ui::UserDataTree;
 
-int g_objects[4];
+int g_objects[6];
 
 UserDataTree::DataNodeInfo Record(const char* name, const char* type, void* data) {
   UserDataTree::DataNodeInfo info;
@@ -28,7 +28,7 @@ class Open : public UserDataTree {
   using UserDataTree::UserDataTree;
 };
 
-const char* const kLeaves[] = {"R/1", "R/2", "C/1"};
+const char* const kLeaves[] = {"R/1", "R/2", "C/1", "C/2", "C/3"};
 
 void Adding(Stage& stage) {
   Play<Open> tree(stage, "leaf");
@@ -37,8 +37,9 @@ void Adding(Stage& stage) {
     return static_cast<BaseTree&>(*tree).AddNode("root", L"Parts", "", "branch", L"", 1, 1, 0, nullptr);
   });
   const UserDataTree::DataNodeInfo records[] = {
-      Record("R", "branch", nullptr), Record("C", "branch", nullptr), Record("R/1", "leaf", &g_objects[0]),
-      Record("R/2", "leaf", &g_objects[1]), Record("C/1", "leaf", &g_objects[2])};
+      Record("R", "branch", nullptr),       Record("C", "branch", nullptr),       Record("R/1", "leaf", &g_objects[0]),
+      Record("R/2", "leaf", &g_objects[1]), Record("C/1", "leaf", &g_objects[2]), Record("C/2", "leaf", &g_objects[4]),
+      Record("C/3", "leaf", &g_objects[5])};
   for (const UserDataTree::DataNodeInfo& record : records) {
     stage.Step("add", [&] { return tree->AddNode(record); });
   }
@@ -57,7 +58,7 @@ void Reading(Stage& stage) {
   stage.Calm();
   static_cast<BaseTree&>(*tree).AddNode("root", L"Parts", "", "branch", L"", 1, 1, 0, nullptr);
   for (const char* branch : {"R", "C"}) tree->AddNode(Record(branch, "branch", nullptr));
-  for (int i = 0; i < 3; ++i) tree->AddNode(Record(kLeaves[i], "leaf", &g_objects[i]));
+  for (int i = 0; i < 5; ++i) tree->AddNode(Record(kLeaves[i], "leaf", &g_objects[i]));
   stage.Storm();
   const auto count = [](const std::vector<void*>& data) { return static_cast<int>(data.size()); };
   for (const bool unique : {true, false}) {
