@@ -33,7 +33,13 @@ void Calls([[maybe_unused]] Panel* panel, [[maybe_unused]] Other* other) {
 #elif defined(WIDE_NAMES_IN_A_LIST)               // says: no match for call
   const wchar_t* const names[] = {L"none"};
   CreateControl(tree, "menu", "OptionMenu", kItemNames(names));
-#elif defined(CODE_AND_VALUE_UNTIED)              // says: Slots
+#elif defined(LABEL_OF_A_CELL_FOR_A_NODE)         // says: an attribute of another table
+  SetNode(tree, "R9", kCellLabel(L"R9"));
+#elif defined(OPTION_OF_A_NEW_NODE_FOR_A_NODE)    // says: an attribute of another table
+  SetNode(tree, "R9", kAddExpanded(1));
+#elif defined(NODE_READ_AS_A_COMPONENT)           // says: an attribute of another table
+  Retrieve(tree, kNodeLabel);
+#elif defined(CODE_AND_VALUE_UNTIED)              // says: is not a class, struct, or union type|Codes
   SetNode(tree, "R9", 2, L"R9");
 #elif defined(COPY_THAT_NOBODY_RELEASES)          // says: a lent copy must be released
   GetNode(tree, "R9", kNodeLabel);
@@ -43,7 +49,7 @@ void Calls([[maybe_unused]] Panel* panel, [[maybe_unused]] Other* other) {
   SetNode(tree, "R9", Attribute<NodeAttribute::Label, std::int32_t>()(1));
 #elif defined(CODE_THAT_IS_IN_NO_TABLE)           // says: no matching function for call to .+ShapeOf
   SetNode(tree, "R9", Attribute<2, const wchar_t*>()(L"R9"));
-#elif defined(OPERATION_AS_A_NUMBER)              // says: invalid conversion
+#elif defined(OPERATION_AS_A_NUMBER)              // says: cannot convert
   Perform(tree, 2201, std::make_tuple(Slot("R9")));
 #elif defined(REASON_AS_A_NUMBER)                 // says: no matching function|invalid conversion
   AddAction<&Panel::ActivateCB>(tree, 4, panel);

@@ -57,16 +57,22 @@ OXECAD_UI_SHAPES(GlobalCode, OXECAD_UI_GLOBAL_CODES)
 #undef OXECAD_UI_SHAPES
 #undef OXECAD_UI_SHAPE_CASE
 
-/// One attribute with the value that is about to be set: two slots of an option list.
-template <class SlotType>
+/// One attribute with the value that is about to be set: two slots of an option list. It remembers the table of its
+/// code.
+template <class Table, class SlotType>
 struct Option {
+  using Codes = Table;
+
   int code;
   SlotType slot;
   auto Slots() const { return std::make_tuple(code, slot); }
 };
 
 /// A list attribute with the list that is about to be set: three slots of an option list.
+template <class Table>
 struct ListOption {
+  using Codes = Table;
+
   int code;
   int count;
   const char* const* names;
@@ -76,6 +82,7 @@ struct ListOption {
 /// An attribute whose values are `T`s. `Preset` is what a reader gets when the toolkit gives nothing.
 template <auto Code, class T, auto Preset = 0>
 struct Attribute {
+  using Codes = decltype(Code);
   using Value = T;
   static constexpr int code = static_cast<int>(Code);
   static_assert(ShapeOf(Code) == kShape<T>, "the table of codes gives this code another type");
@@ -83,7 +90,7 @@ struct Attribute {
   /// The attribute with a value to set.
   constexpr auto operator()(T value) const {
     auto slot = Slot(value);
-    return Option<decltype(slot)>{code, slot};
+    return Option<Codes, decltype(slot)>{code, slot};
   }
 
   /// What counts until the toolkit has answered, and when it refuses.
@@ -99,16 +106,21 @@ struct Attribute {
 /// An attribute whose value is a list of names.
 template <auto Code>
 struct Attribute<Code, Names, 0> {
+  using Codes = decltype(Code);
   using Value = Names;
   static constexpr int code = static_cast<int>(Code);
   static_assert(ShapeOf(Code) == kShape<Names>, "the table of codes gives this code another type");
 
   template <std::size_t N>
-  ListOption operator()(const char* const (&names)[N]) const {
-    return ListOption{code, static_cast<int>(N), names};
+  ListOption<Codes> operator()(const char* const (&names)[N]) const {
+    return ListOption<Codes>{code, static_cast<int>(N), names};
   }
   static constexpr Names PresetValue() { return {}; }
 };
+
+/// Whether all attributes, with or without a value, are of one table of codes: what 2 means depends on the operation.
+template <class Table, class... Given>
+constexpr bool kAreOf = (std::is_same_v<typename Given::Codes, Table> && ...);
 
 using toolkit::CellAttribute;
 using toolkit::ComponentAttribute;

@@ -12,6 +12,7 @@ namespace oxecad_ui::wire {
 /// Creates a cell control of a class, with options given as `attribute(value)`.
 template <class... Options>
 Result CreateControl(const Widget& tree, const char* control, const char* className, const Options&... options) {
+  static_assert(kAreOf<ControlAttribute, Options...>, "an attribute of another table");
   return Perform(tree, Operation::CreateControl, std::make_tuple(Slot(control), Slot(className)), options...);
 }
 
@@ -27,11 +28,13 @@ struct Cell {
 
 template <class... Options>
 Result SetCell(const Widget& tree, const Cell& cell, const Options&... options) {
+  static_assert(kAreOf<CellAttribute, Options...>, "an attribute of another table");
   return Perform(tree, Operation::SetCell, std::make_tuple(Slot(cell.node), Slot(cell.column)), options...);
 }
 
 template <class... Options>
 Result SetCellControl(const Widget& tree, const Cell& cell, const Options&... options) {
+  static_assert(kAreOf<ControlAttribute, Options...>, "an attribute of another table");
   return Perform(tree, Operation::SetCellControl, std::make_tuple(Slot(cell.node), Slot(cell.column)), options...);
 }
 
@@ -58,6 +61,7 @@ inline const wchar_t* CellLabel(const Widget& tree, const Cell& cell) {
 /// An attribute of the control in a cell; its preset when it cannot be read.
 template <class Attribute>
 auto GetCellControl(const Widget& tree, const Cell& cell, Attribute attribute) {
+  static_assert(kAreOf<ControlAttribute, Attribute>, "an attribute of another table");
   return detail::AskCell(tree, Operation::GetCellControl, cell, attribute);
 }
 

@@ -10,12 +10,14 @@ namespace oxecad_ui::wire {
 /// Reads attributes of a component. What is read stays the toolkit's.
 template <class... Attributes>
 auto Retrieve(const Widget& widget, Attributes... attributes) {
+  static_assert(kAreOf<ComponentAttribute, Attributes...>, "an attribute of another table");
   return Ask([&](auto... slots) { return ui_retrieve(widget.device, widget.name, slots..., kEnd); }, attributes...);
 }
 
 /// Writes attributes of a component, given as `attribute(value)`.
 template <class... Options>
 Result Modify(const Widget& widget, const Options&... options) {
+  static_assert(kAreOf<ComponentAttribute, Options...>, "an attribute of another table");
   return {std::apply([&](auto... slots) { return ui_modify(widget.device, widget.name, slots..., kEnd); },
                      std::tuple_cat(options.Slots()...))};
 }
@@ -23,6 +25,7 @@ Result Modify(const Widget& widget, const Options&... options) {
 /// Reads global values. What is read stays the toolkit's.
 template <class... Attributes>
 auto Inquire(Attributes... attributes) {
+  static_assert(kAreOf<GlobalCode, Attributes...>, "an attribute of another table");
   return Ask([](int code, auto... slots) { return ui_global_inquire(code, slots..., kEnd); }, attributes...);
 }
 

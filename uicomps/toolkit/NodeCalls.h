@@ -74,12 +74,14 @@ inline Result CollapseNode(const Widget& tree, const char* node) {
 /// Sets attributes of a node, given as `attribute(value)`.
 template <class... Options>
 Result SetNode(const Widget& tree, const char* node, const Options&... options) {
+  static_assert(kAreOf<NodeAttribute, Options...>, "an attribute of another table");
   return Perform(tree, Operation::SetNode, std::make_tuple(Slot(node)), options...);
 }
 
 /// Changes options of a node, given as `option(value)`.
 template <class... Options>
 Result ChangeNode(const Widget& tree, const char* node, const Options&... options) {
+  static_assert(kAreOf<NodeOption, Options...>, "an attribute of another table");
   return Perform(tree, Operation::ChangeNode, std::make_tuple(Slot(node)), options...);
 }
 
@@ -103,6 +105,7 @@ constexpr bool kNeedsRelease =
 /// Reads plain values of a node. Strings and lists are lent as copies: read those with `LentText` and `LentNames`.
 template <class... Attributes>
 auto GetNode(const Widget& tree, const char* node, Attributes... attributes) {
+  static_assert(kAreOf<NodeAttribute, Attributes...>, "an attribute of another table");
   static_assert((!detail::kNeedsRelease<Attributes> && ...), "a lent copy must be released");
   return detail::AskNode(tree, Operation::GetNode, node, attributes...);
 }
@@ -110,12 +113,14 @@ auto GetNode(const Widget& tree, const char* node, Attributes... attributes) {
 /// Reads values of a node; strings and lists stay the toolkit's and are good until the node changes.
 template <class... Attributes>
 auto InquireNode(const Widget& tree, const char* node, Attributes... attributes) {
+  static_assert(kAreOf<NodeAttribute, Attributes...>, "an attribute of another table");
   return detail::AskNode(tree, Operation::InquireNode, node, attributes...);
 }
 
 /// Reads options of a node.
 template <class... Attributes>
 auto QueryNode(const Widget& tree, const char* node, Attributes... attributes) {
+  static_assert(kAreOf<NodeOption, Attributes...>, "an attribute of another table");
   return detail::AskNode(tree, Operation::QueryNode, node, attributes...);
 }
 
