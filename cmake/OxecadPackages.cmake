@@ -23,7 +23,7 @@ foreach(target IN ITEMS oxecad_ui ${platform_libraries} uiox_qt)
 endforeach()
 
 set(libraries "lib${CPACK_PACKAGE_NAME}${PROJECT_VERSION_MAJOR}")
-set(front "lib${CPACK_PACKAGE_NAME}-qt${PROJECT_VERSION_MAJOR}")
+set(front "libuiox-qt${PROJECT_VERSION_MAJOR}")
 set(this_version "(= ${PROJECT_VERSION})")
 set(about "oxecad_ui holds the user-interface components of an electronic-CAD viewer:
 trees of nets, layers and components in natural order, with checks and

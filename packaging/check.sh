@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # check.sh WORK: builds the Debian packages twice, in two folders with two copies of the sources, and holds them together
 # byte by byte; asks lintian; installs them, uses them and purges them. The packages are installed into a folder of its
-# own (dpkg is given a copy of this system's list of packages, so that it asks for what they depend on), and nothing of
-# this system is changed.
+# own (dpkg is given a copy of this system's list of packages, so that it asks for what they depend on), and then over a
+# copy-on-write view of this system (overlay.sh). Nothing of this system is changed.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 mkdir -p "$1"
@@ -83,3 +83,12 @@ own_dpkg --purge "${names[@]}"
 left=$(find "$system" ! -type d)
 [ -z "$left" ] || die "After the purge there is still: $left"
 say "Purged: nothing is left"
+
+# Once more where it belongs: in the system itself, seen through an overlay.
+status=0
+"$root/packaging/overlay.sh" "$work" "$root" "${packages[@]}" || status=$?
+case $status in
+  0) say "Installed, used and purged in an overlay of this system" ;;
+  77) say "No overlay of this system is to be had here" ;;
+  *) exit $status ;;
+esac
