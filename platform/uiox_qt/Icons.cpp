@@ -2,8 +2,10 @@
 
 #include <uiox/Suite.h>
 #include <uiox_qt/ImageScaling.h>
+#include <uiox_qt/ImageWords.h>
 #include <uiox_qt/SignIcons.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QHash>
 #include <QIconEngine>
@@ -58,13 +60,32 @@ QImage SignImage(std::string_view word, int pixels) {
   return image;
 }
 
+bool letters_in_squares = false;
+
+/// The first letter of the colour's word, readable on the colour.
+void PaintLetter(QImage& image, QRgb color) {
+  QPainter painter(&image);
+  QFont font = QApplication::font();
+  font.setPixelSize(std::max(1, image.height() * 3 / 4));
+  font.setBold(true);
+  painter.setFont(font);
+  constexpr int kMiddle = 140;
+  painter.setPen(qGray(color) > kMiddle ? Qt::black : Qt::white);
+  painter.drawText(QRectF(0, 0, image.width(), image.height()), Qt::AlignCenter, ColorWord(color).left(1).toUpper());
+}
+
 QImage MakeImage(std::string_view name, int side, qreal ratio) {
   const int pixels = qRound(side * ratio);
   const uiox::Image* found = uiox::Suite::Get().Images().Find(name);
   if (!found) return IsSign(name) ? SignImage(name, pixels) : QImage();
   uiox::Image drawn;
   if (IsBuiltIn(name, *found) && uiox::DrawBuiltInImage(name, pixels, drawn)) return ToQImage(drawn);
-  return Fitted(ToQImage(*found), side, ratio);
+  QImage image = Fitted(ToQImage(*found), side, ratio);
+  const auto color = letters_in_squares ? ColorOfSquare(name) : std::nullopt;
+  if (!color) return image;
+  image = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+  PaintLetter(image, *color);
+  return image;
 }
 
 /// Asks for the image anew for each size and device, so that it is crisp on all of them.
@@ -129,6 +150,15 @@ QPixmap ImagePixmap(std::string_view name, int side, qreal ratio) {
 void ForgetImage(std::string_view name) { Cache().remove(Key(name)); }
 
 void ForgetImages() { Cache().clear(); }
+
+void ShowLettersInSquares(bool shown) {
+  if (letters_in_squares == shown) return;
+  letters_in_squares = shown;
+  ForgetImages();
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    for (QAbstractItemView* view : window->findChildren<QAbstractItemView*>()) view->viewport()->update();
+  }
+}
 
 QIcon ImageIcon(std::string_view name) {
   if (ImagePixmap(name, kIconSide, 1).isNull()) return {};

@@ -26,6 +26,10 @@ void ForgetImage(std::string_view name);
 /// Nobody watches the images any more: what was made of them is forgotten.
 void ForgetImages();
 
+/// Whether colour squares show the first letter of their colour's word, for eyes that cannot tell all colours apart.
+/// Not at first.
+OXECAD_UIOX_QT_API void ShowLettersInSquares(bool shown);
+
 /// An icon of an image; null icon when there is no such image. It is drawn for each size and device anew.
 OXECAD_UIOX_QT_API QIcon ImageIcon(std::string_view name);
 

@@ -3,8 +3,10 @@
 #include <uiox_qt/CheckGesture.h>
 #include <uiox_qt/Icons.h>
 #include <uiox_qt/LabelPainter.h>
+#include <uiox_qt/NodeWords.h>
 #include <uiox_qt/TreeModel.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QHelpEvent>
 #include <QPainter>
@@ -138,9 +140,17 @@ bool TreeDelegate::editorEvent(QEvent*, QAbstractItemModel*, const QStyleOptionV
 
 bool TreeDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                              const QModelIndex& index) {
-  const bool wanted =
-      index.isValid() && event->type() == QEvent::ToolTip && sizeHint(option, index).width() > option.rect.width();
-  if (wanted) return QStyledItemDelegate::helpEvent(event, view, option, index);
+  if (index.isValid() && event->type() == QEvent::ToolTip) {
+    const bool clipped = sizeHint(option, index).width() > option.rect.width();
+    const QString tip = ItemTip(model_, index, clipped);
+    if (!tip.isEmpty()) {
+      // As it stands: a name is no markup.
+      QToolTip::showText(event->globalPos(),
+                         QStringLiteral("<p style='white-space:pre'>%1</p>").arg(tip.toHtmlEscaped()), view,
+                         option.rect);
+      return true;
+    }
+  }
   QToolTip::hideText();
   return true;
 }

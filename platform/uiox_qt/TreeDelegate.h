@@ -22,7 +22,7 @@ class TreeDelegate final : public QStyledItemDelegate {
   /// Checks are the view's matter.
   bool editorEvent(QEvent*, QAbstractItemModel*, const QStyleOptionViewItem&, const QModelIndex&) override;
 
-  /// A tooltip for what does not fit into its column.
+  /// A tooltip with what an item says in words, and for what does not fit into its column.
   bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                  const QModelIndex& index) override;
 

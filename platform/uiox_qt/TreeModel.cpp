@@ -3,6 +3,7 @@
 #include <uiox/Suite.h>
 #include <uiox_qt/Icons.h>
 #include <uiox_qt/Markup.h>
+#include <uiox_qt/NodeWords.h>
 #include <uiox_qt/Text.h>
 #include <uiox_qt/TreeFilter.h>
 #include <uiox_qt/TreeModelChanges.h>
@@ -158,6 +159,10 @@ QVariant TreeModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
     case Qt::ToolTipRole:
       return ColumnAt(index.column()).markup ? PlainText(text()) : text();
+    case Qt::AccessibleTextRole:
+      return ItemWords(*this, index);
+    case Qt::AccessibleDescriptionRole:
+      return ItemFacts(*this, index);
     case MarkupRole:
       return text();
     case NodeRole:

@@ -1,9 +1,13 @@
 #include <uiox_qt/TreeView.h>
 
 #include <uiox/UserEvents.h>
+#include <uiox_qt/NodeWords.h>
+#include <uiox_qt/RowRanges.h>
 #include <uiox_qt/Text.h>
 #include <uiox_qt/TreeSync.h>
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -275,6 +279,10 @@ bool TreeView::UseKey(const QKeyEvent& event) {
     sync_->NoteAction([search = search_, text = event.text()](uiox::TreeWidget&) { search(text); });
     return true;
   }
+  if (event.matches(QKeySequence::Copy)) {
+    QGuiApplication::clipboard()->setText(SelectedNames());
+    return true;
+  }
   const QModelIndex current = currentIndex();
   if (!Tree() || !current.isValid()) return false;
   const bool control = event.modifiers().testFlag(Qt::ControlModifier);
@@ -299,6 +307,14 @@ bool TreeView::UseKey(const QKeyEvent& event) {
     default:
       return false;
   }
+}
+
+QString TreeView::SelectedNames() const {
+  QStringList names;
+  for (const NodeId node : NodesOf(selectionModel()->selection(), Model())) {
+    names << ItemWords(Model(), Model().IndexOf(node)).replace(u'\n', u' ');
+  }
+  return names.join(u'\n');
 }
 
 bool TreeView::UseSpace(const QModelIndex& current) {

@@ -52,6 +52,9 @@ class OXECAD_UIOX_QT_API TreeView final : public QTreeView {
   /// dragging over boxes.
   void SetCheckRule(CheckRule rule) { check_rule_ = rule; }
 
+  /// The names of the selected nodes that are shown, without markup, one a line from top to bottom: what Ctrl+C copies.
+  QString SelectedNames() const;
+
   /// `kNoNode` where there is none.
   uiox::NodeId NodeAt(const QPoint& viewport_position) const;
   uiox::NodeId CurrentNode() const;
