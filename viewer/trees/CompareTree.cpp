@@ -204,6 +204,11 @@ CompareLook CompareTree::LookOf(std::size_t subject) const {
   return {compare->colorA, compare->colorB, compare->colorOverlap, compare->showMode, compare->dim == Checked};
 }
 
+void CompareTree::SetLook(std::size_t subject, const CompareLook& look) {
+  ChangeNodeInfo(subjects_[subject].node.c_str(), look.colorA, look.colorB, look.colorOverlap, look.showMode,
+                 look.dimOverlap ? Checked : Unchecked, DesignsOf(subjects_[subject]));
+}
+
 std::size_t CompareTree::SubjectOf(const std::string& node) const {
   const auto found = positions_.find(node);
   return found == positions_.end() ? kNone : found->second;

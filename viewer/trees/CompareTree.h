@@ -57,10 +57,10 @@ class CompareTree : public oxecad_ui::CompareColorTree {
   static constexpr const char* kName = "compare";
   static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
-  /// The colours that everything has at first.
-  static constexpr Color kColorA = ColorOf(0x56, 0xB4, 0xE9);
-  static constexpr Color kColorB = ColorOf(0xE6, 0x8A, 0x00);
-  static constexpr Color kColorOverlap = ColorOf(0xA8, 0xB0, 0xB8);
+  /// The colours that everything has at first: told apart by any eye, and seen on light and on dark ground.
+  static constexpr Color kColorA = ColorOf(0xD9, 0x77, 0x06);
+  static constexpr Color kColorB = ColorOf(0x3B, 0x8B, 0xE8);
+  static constexpr Color kColorOverlap = ColorOf(0x6F, 0x74, 0x7A);
 
   /// Shows a comparison in the tree "compare" of the device. Boards and comparison must outlive it.
   CompareTree(const char* device, const Board& a, const Board& b, const BoardDiff& diff);
@@ -82,6 +82,8 @@ class CompareTree : public oxecad_ui::CompareColorTree {
   const std::vector<CompareSubject>& Subjects() const { return subjects_; }
   /// How the subject at a position is shown now.
   CompareLook LookOf(std::size_t subject) const;
+  /// Shows a subject in another way; a board that does not have it stays without a colour.
+  void SetLook(std::size_t subject, const CompareLook& look);
   /// Positions of the subjects selected, in ascending order; a heading stands for all below it.
   const std::vector<std::size_t>& Selected() const { return selected_; }
 

@@ -121,6 +121,10 @@ Color LayerTree::ColorOfLayer(LayerId id) const {
   return GetNodeColor(NodeName(kLayerKind, layer.name).c_str());
 }
 
+void LayerTree::SetColor(LayerId id, Color color) {
+  ColorTree::ChangeNodeColor(NodeName(kLayerKind, board_.layers[static_cast<std::size_t>(id)].name).c_str(), color);
+}
+
 LayerId LayerTree::ActiveLayer() const {
   for (std::size_t i = 0; i < board_.DeclaredLayerCount(); ++i) {
     const Layer& layer = board_.layers[i];

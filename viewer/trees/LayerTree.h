@@ -49,6 +49,8 @@ class LayerTree : public oxecad_ui::ColorTree {
 
   bool IsVisible(LayerId layer) const;
   Color ColorOfLayer(LayerId layer) const;
+  /// Gives a listed layer a colour, and its groups what follows from it.
+  void SetColor(LayerId layer, Color color);
   /// kNoLayer when the user has switched the active layer off.
   LayerId ActiveLayer() const;
   /// Makes a copper layer the active one.

@@ -31,6 +31,11 @@ void ObjectTree::OnActivate(const char* node) {
   EcadTree::OnActivate(node);
 }
 
+void ObjectTree::RestoreSelection(const std::set<void*>& objects) {
+  selected_ = objects;
+  if (onSelection_) onSelection_();
+}
+
 bool ObjectTree::HoldsAllOf(const std::string& node) const {
   std::vector<std::string> children;
   GetChildren(node.c_str(), children);

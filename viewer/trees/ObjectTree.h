@@ -28,6 +28,8 @@ class ObjectTree : public oxecad_ui::EcadTree {
 
   /// The objects selected, in no particular order.
   const std::set<void*>& SelectedObjects() const { return selected_; }
+  /// Makes these objects the selected ones, as they were before; no node is marked or unmarked by it.
+  void RestoreSelection(const std::set<void*>& objects);
 
   void OnActivate(const char* node) override;
   /// A node that stands for all its children does not stay selected itself. Taken in by itself while all of them are

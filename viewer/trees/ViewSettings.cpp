@@ -1,3 +1,4 @@
+#include <viewer/trees/LengthExpression.h>
 #include <viewer/trees/ViewSettings.h>
 
 #include <algorithm>
@@ -23,6 +24,7 @@ using oxkutils::SmartPtr;
 namespace wire = oxecad_ui::wire;
 
 constexpr const char* kDim = "dim";
+constexpr const char* kRoom = "room";
 
 struct Unit {
   const char* name;
@@ -76,7 +78,9 @@ ViewSettings::~ViewSettings() {
     wire::RemoveAction<&ViewSettings::LeftCB>({device_.c_str(), field.name}, wire::Reason::FocusOut);
     wire::RemoveAction<&ViewSettings::UnitCB>({device_.c_str(), field.unitMenu}, wire::Reason::Select);
   }
-  wire::RemoveAction<&ViewSettings::LeftCB>({device_.c_str(), kDim}, wire::Reason::FocusOut);
+  for (const char* field : {kDim, kRoom}) {
+    wire::RemoveAction<&ViewSettings::LeftCB>({device_.c_str(), field}, wire::Reason::FocusOut);
+  }
   verifier_.Clear();
 }
 
@@ -89,7 +93,10 @@ void ViewSettings::Init() {
     wire::AddAction<&ViewSettings::UnitCB>({device_.c_str(), field.unitMenu}, wire::Reason::Select, this);
   }
   verifier_.AddControl(kDim, SmartPtr<InputTest>(new NumericInputTest<double>(0, 100, false)));
-  wire::AddAction<&ViewSettings::LeftCB>({device_.c_str(), kDim}, wire::Reason::FocusOut, this);
+  verifier_.AddControl(kRoom, SmartPtr<InputTest>(new LengthExpressionTest(0, kLargestRoom)));
+  for (const char* field : {kDim, kRoom}) {
+    wire::AddAction<&ViewSettings::LeftCB>({device_.c_str(), field}, wire::Reason::FocusOut, this);
+  }
   SetValues(values_);
 }
 
@@ -114,6 +121,7 @@ void ViewSettings::SetValues(const ViewSettingValues& values) {
   values_ = values;
   for (const LengthField& field : lengths_) PutLength(field);
   PutText(kDim, values_.dimStrength * 100);
+  PutText(kRoom, values_.room);
 }
 
 std::array<std::string, 2> ViewSettings::Units() const {
@@ -162,6 +170,7 @@ void ViewSettings::OnLeft() {
     }
   }
   if (const auto percent = NumberOf(TextOf(kDim))) values_.dimStrength = *percent / 100;
+  if (const auto room = NumberOf(TextOf(kRoom))) values_.room = *room;
   if (values_ != before && onChange_) onChange_();
 }
 

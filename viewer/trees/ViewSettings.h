@@ -22,16 +22,18 @@ struct ViewSettingValues {
   double grid = 1;            ///< distance of the grid's points; 0: no grid
   double lineWidth = 0.05;    ///< of lines that are thinner
   double dimStrength = 0.75;  ///< from 0 to 1
+  double room = 2;            ///< of the board around what the view goes to
   friend bool operator==(const ViewSettingValues&, const ViewSettingValues&) = default;
 };
 
 /// Grid, line width and dim strength as fields of a panel, the lengths with a choice of units. A field takes only what
 /// can become a number in its range; the value counts when the field is left. Another unit keeps the length and changes
-/// the number.
+/// the number. The room around what is shown may be reckoned ("1.5mm + 20mil").
 class ViewSettings {
  public:
   static constexpr double kLargestGrid = 100;
   static constexpr double kLargestLineWidth = 5;
+  static constexpr double kLargestRoom = 100;
 
   /// Works on the fields of the device.
   explicit ViewSettings(const char* device);

@@ -7,6 +7,8 @@
 #include <map>
 #include <utility>
 
+#include <uiox_qt/ImageWords.h>
+
 namespace oxviewer {
 namespace {
 
@@ -182,6 +184,16 @@ void BoardSession::SetNetColors(const std::vector<NetId>& nets, Color color) {
     netColors_[static_cast<std::size_t>(net)] = color;
     trees_->Nets().SetType(A().nets[static_cast<std::size_t>(net)],
                            color == kNoColor ? NetTree::kPlainType : trees_->Layers().TypeOfColor(color));
+  }
+}
+
+void BoardSession::ReadNetColors() {
+  for (std::size_t i = 0; i < netColors_.size(); ++i) {
+    const auto color = uiox_qt::ColorOfSquare(trees_->Nets().GetNodeType(NetTree::NodeOf(A().nets[i]).c_str()));
+    netColors_[i] = color
+                        ? ColorOf(static_cast<std::uint32_t>(qRed(*color)), static_cast<std::uint32_t>(qGreen(*color)),
+                                  static_cast<std::uint32_t>(qBlue(*color)))
+                        : kNoColor;
   }
 }
 

@@ -48,6 +48,8 @@ class BoardSession {
 
   /// Gives nets a colour of their own; kNoColor takes it away.
   void SetNetColors(const std::vector<NetId>& nets, Color color);
+  /// The nets' own colours are what the tree of nets shows now.
+  void ReadNetColors();
   Color NetColor(NetId net) const { return netColors_[static_cast<std::size_t>(net)]; }
   std::vector<NetId> SelectedNets() const;
 

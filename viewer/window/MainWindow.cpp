@@ -3,12 +3,15 @@
 #include <viewer/window/BoardView.h>
 #include <viewer/window/ComparePanel.h>
 #include <viewer/window/FilterLine.h>
+#include <viewer/window/History.h>
+#include <viewer/window/KeptTrees.h>
 #include <viewer/window/MainWindow.h>
 #include <viewer/window/MainWindowActions.h>
 #include <viewer/window/Mainframe.h>
 #include <viewer/window/TreePanel.h>
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QGroupBox>
@@ -68,6 +71,8 @@ MainWindow::MainWindow(uiox_qt::QtFront& front, const Remembered& remembered, bo
       remembered_(remembered),
       keeps_(keeps),
       mainframe_(std::make_unique<oxcore::Mainframe>(*this)),
+      kept_(std::make_unique<KeptTrees>(QString())),
+      history_(std::make_unique<History>()),
       actions_(std::make_unique<Actions>()),
       view_(new BoardView),
       layers_(nullptr),
@@ -101,6 +106,7 @@ MainWindow::MainWindow(uiox_qt::QtFront& front, const Remembered& remembered, bo
 MainWindow::~MainWindow() {
   view_->SetScene(nullptr);
   compare_->SetTree(nullptr);
+  history_->Clear();
   session_.reset();
   // The front's widgets are only placed here: another window may show them later.
   if (QWidget* settings = front_.WidgetFor(kSettingsPanel)) {
@@ -135,8 +141,8 @@ void MainWindow::MakePanels() {
   layerSide->setDocumentMode(true);
   layerSide->addTab(layers_, tr("Layers"));
   layerSide->addTab(front_.WidgetFor(kSettingsPanel), tr("View"));
-  AlignLabels(front_, kSettingsPanel, {"gridLabel", "lineWidthLabel", "dimLabel"});
-  AlignLabels(front_, kSettingsPanel, {"gridUnit", "lineWidthUnit", "dimUnit"});
+  AlignLabels(front_, kSettingsPanel, {"gridLabel", "lineWidthLabel", "dimLabel", "roomLabel"});
+  AlignLabels(front_, kSettingsPanel, {"gridUnit", "lineWidthUnit", "dimUnit", "roomUnit"});
   auto* left = new QSplitter(Qt::Vertical);
   left->addWidget(layerSide);
   left->addWidget(tabs_);
@@ -162,19 +168,33 @@ void MainWindow::MakeStatusBar() {
   for (QLabel* label : {facts_, place_, zoom_}) label->setContentsMargins(6, 0, 6, 0);
 }
 
+void MainWindow::KeepTreesIn(const QString& file) {
+  kept_ = std::make_unique<KeptTrees>(file);
+  kept_->Apply(*this);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  kept_->Save(*this);
+  QMainWindow::closeEvent(event);
+}
+
 void MainWindow::ShowBoards(LoadedBoards boards) {
+  kept_->Save(*this);
   view_->SetScene(nullptr);
   view_->SetOverlay(nullptr);
   compare_->SetTree(nullptr);
   for (TreePanel* panel : {layers_, nets_, components_, parts_, &compare_->Panel()}) panel->Filter().clear();
+  history_->Clear();
   session_.reset();
   if (boards.a) session_ = std::make_unique<BoardSession>(std::move(boards), mainframe_.get());
   compare_->setVisible(session_ && session_->IsComparing());
   if (session_) {
     ConnectTrees();
     compare_->SetTree(session_->Trees().Compare());
+    kept_->Apply(*this);
     view_->SetScene(session_->MakeScene(viewStyle_));
   }
+  FollowTrees();
   ShowReferences();
   view_->SetFrames({});
   UpdateActions();

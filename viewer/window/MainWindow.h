@@ -27,6 +27,8 @@ namespace oxviewer {
 class BoardSession;
 class BoardView;
 class ComparePanel;
+class History;
+class KeptTrees;
 class TreePanel;
 
 /// Trees on the left, the board in the middle, the comparison on the right. What the user does in a tree shows in the
@@ -40,6 +42,9 @@ class MainWindow : public QMainWindow {
   MainWindow(uiox_qt::QtFront& front, const Remembered& remembered, bool keeps);
   ~MainWindow() override;
 
+  /// Keeps what the user makes of the trees in a file from now on (KeptTrees.h): boards that are shown take it from
+  /// there.
+  void KeepTreesIn(const QString& file);
   /// Shows boards instead of those that were there; without `boards.a`, none.
   void ShowBoards(LoadedBoards boards);
   /// Reads and shows boards. On failure the window stays as it is, and the user is told.
@@ -52,9 +57,11 @@ class MainWindow : public QMainWindow {
   TreePanel& NetsPanel() const { return *nets_; }
   TreePanel& ComponentsPanel() const { return *components_; }
   TreePanel& PartsPanel() const { return *parts_; }
+  History& Steps() const { return *history_; }
   ComparePanel& Comparison() const { return *compare_; }
 
  protected:
+  void closeEvent(QCloseEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
@@ -62,6 +69,7 @@ class MainWindow : public QMainWindow {
   void MakePanels();
   void MakeActions();
   void MakeFileMenu();
+  void MakeEditMenu();
   void MakeViewMenu();
   void MakeSelectMenu();
   void MakeCompareMenu();
@@ -73,6 +81,7 @@ class MainWindow : public QMainWindow {
   void MakeStatusBar();
   void ConnectView();
   void ConnectTrees();
+  void FollowTrees();
 
   void Redraw();
   void ShowSelection();
@@ -96,6 +105,7 @@ class MainWindow : public QMainWindow {
   void IsolateSelection();
   void ClearMarks();
   void ShowShortcuts();
+  void ShowLegend();
   void ShowAbout();
 
   struct Actions;
@@ -107,6 +117,8 @@ class MainWindow : public QMainWindow {
   std::unique_ptr<oxcore::Mainframe> mainframe_;
   std::unique_ptr<ViewSettings> settings_;
   std::unique_ptr<BoardSession> session_;
+  std::unique_ptr<KeptTrees> kept_;
+  std::unique_ptr<History> history_;  // goes before the session
   std::unique_ptr<Actions> actions_;
   BoardView* view_;
   TreePanel* layers_;

@@ -16,6 +16,8 @@ struct MainWindow::Actions {
   QToolBar* bar = nullptr;
   QAction* compareWith = nullptr;
   QAction* savePicture = nullptr;
+  QAction* undo = nullptr;
+  QAction* redo = nullptr;
   QAction* fit = nullptr;
   QAction* fitSelection = nullptr;
   QAction* zoomIn = nullptr;

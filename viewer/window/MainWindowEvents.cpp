@@ -2,6 +2,7 @@
 #include <viewer/window/BoardSession.h>
 #include <viewer/window/BoardView.h>
 #include <viewer/window/ComparePanel.h>
+#include <viewer/window/History.h>
 #include <viewer/window/MainWindow.h>
 #include <viewer/window/MainWindowActions.h>
 #include <viewer/window/Mainframe.h>
@@ -22,13 +23,12 @@
 namespace oxviewer {
 namespace {
 
-constexpr double kSmallestPart = 6;  // mm shown around a part that is smaller
-constexpr double kRoomAroundPart = 0.35;
+constexpr double kRoomAroundPart = 0.35;  // at least, of its own size
 
-// Some of the board around a part.
-QRectF WithRoom(const QRectF& part) {
-  const double wider = std::max(part.width() * kRoomAroundPart, (kSmallestPart - part.width()) / 2);
-  const double higher = std::max(part.height() * kRoomAroundPart, (kSmallestPart - part.height()) / 2);
+// Some of the board around a part; `least` in millimetres.
+QRectF WithRoom(const QRectF& part, double least) {
+  const double wider = std::max(part.width() * kRoomAroundPart, least);
+  const double higher = std::max(part.height() * kRoomAroundPart, least);
   return part.adjusted(-wider, -higher, wider, higher);
 }
 
@@ -42,8 +42,14 @@ void MainWindow::ConnectView() {
   });
   connect(view_, &BoardView::ViewportChanged, this, &MainWindow::ShowZoom);
   connect(view_, &BoardView::Picked, this, &MainWindow::Pick);
-  connect(compare_, &ComparePanel::DifferenceShown, this,
-          [this](std::size_t subject) { view_->FitTo(WithRoom(session_->BoundsOfSubject(subject))); });
+  connect(history_.get(), &History::StepsChanged, this, &MainWindow::UpdateActions);
+  connect(history_.get(), &History::Restored, this, [this] {
+    session_->ReadNetColors();
+    Redraw();
+  });
+  connect(compare_, &ComparePanel::DifferenceShown, this, [this](std::size_t subject) {
+    view_->FitTo(WithRoom(session_->BoundsOfSubject(subject), remembered_.view.room));
+  });
 }
 
 void MainWindow::ConnectTrees() {
@@ -62,6 +68,18 @@ void MainWindow::ConnectTrees() {
   }
 }
 
+void MainWindow::FollowTrees() {
+  if (!session_) return;
+  const auto objects = [](ObjectTree& tree) {
+    return TreeMemory::Objects{[&tree] { return tree.SelectedObjects(); },
+                               [&tree](const std::set<void*>& selected) { tree.RestoreSelection(selected); }};
+  };
+  history_->Follow(*layers_->View().Tree());
+  history_->Follow(*nets_->View().Tree(), objects(session_->Trees().Nets()));
+  history_->Follow(*components_->View().Tree(), objects(session_->Trees().Components()));
+  if (session_->IsComparing()) history_->Follow(*compare_->Panel().View().Tree());
+}
+
 void MainWindow::Redraw() {
   if (session_) view_->SetScene(session_->MakeScene(viewStyle_));
 }
@@ -73,7 +91,7 @@ void MainWindow::ShowSelection() {
 }
 
 void MainWindow::ShowPart(const Marks& marks) {
-  if (marks.Any()) view_->FitTo(WithRoom(session_->BoundsOf(marks)));
+  if (marks.Any()) view_->FitTo(WithRoom(session_->BoundsOf(marks), remembered_.view.room));
 }
 
 void MainWindow::ShowPlace(QPointF place) {
@@ -127,6 +145,8 @@ void MainWindow::UpdateActions() {
     action->setEnabled(selected && !comparing);
   }
   actions_->fitSelection->setEnabled(selected);
+  actions_->undo->setEnabled(history_->CanUndo());
+  actions_->redo->setEnabled(history_->CanRedo());
   actions_->clear->setEnabled(selected || (any && (session_->Highlighted().Any() || session_->Isolated().Any())));
   actions_->netColor->setEnabled(nets && !comparing);
   actions_->noNetColor->setEnabled(nets && !comparing);

@@ -1,6 +1,8 @@
 #include <viewer/window/BoardSession.h>
 #include <viewer/window/BoardView.h>
 #include <viewer/window/ComparePanel.h>
+#include <viewer/window/History.h>
+#include <viewer/window/Legend.h>
 #include <viewer/window/MainWindow.h>
 #include <viewer/window/MainWindowActions.h>
 #include <viewer/window/ToolIcons.h>
@@ -16,6 +18,7 @@
 #include <functional>
 
 #include <uicomps/dialogs/DefaultActions.h>
+#include <uiox_qt/Icons.h>
 #include <uiox_qt/TreeView.h>
 
 namespace oxviewer {
@@ -48,6 +51,7 @@ void MainWindow::MakeActions() {
   actions_->bar->setMovable(false);
   actions_->bar->setIconSize(QSize(18, 18));
   MakeFileMenu();
+  MakeEditMenu();
   actions_->bar->addSeparator();
   MakeViewMenu();
   actions_->bar->addSeparator();
@@ -68,6 +72,13 @@ void MainWindow::MakeFileMenu() {
       Add(menu, tr("Save &picture…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), [this] { SavePicture(); });
   menu.addSeparator();
   Add(menu, tr("&Quit"), QKeySequence::Quit, [this] { close(); });
+}
+
+void MainWindow::MakeEditMenu() {
+  QMenu& menu = *menuBar()->addMenu(tr("&Edit"));
+  actions_->undo = Add(menu, tr("&Undo"), QKeySequence::Undo, [this] { history_->Undo(); });
+  actions_->redo = Add(menu, tr("&Redo"), {}, [this] { history_->Redo(); });
+  actions_->redo->setShortcuts({Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y});
 }
 
 void MainWindow::MakeViewMenu() {
@@ -94,6 +105,15 @@ void MainWindow::MakeViewMenu() {
   MakeLayerMenu(*menu.addMenu(tr("&Layers")));
   MakeUnitMenu(*menu.addMenu(tr("&Units")));
   MakeThemeMenu(*menu.addMenu(tr("&Theme")));
+  QAction* letters = menu.addAction(tr("&Letters in colour squares"));
+  letters->setCheckable(true);
+  letters->setChecked(remembered_.letters);
+  uiox_qt::ShowLettersInSquares(remembered_.letters);
+  connect(letters, &QAction::toggled, this, [this](bool shown) {
+    remembered_.letters = shown;
+    uiox_qt::ShowLettersInSquares(shown);
+    Keep();
+  });
 }
 
 void MainWindow::MakeLayerMenu(QMenu& menu) {
@@ -186,6 +206,7 @@ void MainWindow::MakeCompareMenu() {
 void MainWindow::MakeHelpMenu() {
   QMenu& menu = *menuBar()->addMenu(tr("&Help"));
   Add(menu, tr("&Keys and mouse"), QKeySequence::HelpContents, [this] { ShowShortcuts(); });
+  Add(menu, tr("&Legend"), {}, [this] { ShowLegend(); });
   Add(menu, tr("&About oxviewer"), {}, [this] { ShowAbout(); });
 }
 
@@ -240,8 +261,24 @@ void MainWindow::ShowShortcuts() {
          "<tr><td>A letter in a tree</td><td>narrow the tree to names with it</td></tr>"
          "<tr><td>F3, Shift+F3</td><td>next and previous difference</td></tr>"
          "<tr><td>Double click or Enter on a layer</td><td>choose its colour</td></tr>"
-         "<tr><td>Space on a layer</td><td>show or hide it</td></tr>"
+         "<tr><td>Space on a layer</td><td>show or hide it, or all that are selected</td></tr>"
+         "<tr><td>Shift+click, drag over boxes</td><td>show or hide several layers</td></tr>"
+         "<tr><td>Ctrl+C in a tree</td><td>copy the selected names</td></tr>"
+         "<tr><td>Shift+Right in a tree</td><td>expand all below</td></tr>"
          "</table>"));
+}
+
+void MainWindow::ShowLegend() {
+  std::vector<LegendColor> layers;
+  if (session_) {
+    const LayerTree& tree = session_->Trees().Layers();
+    for (std::size_t i = 0; i < session_->A().DeclaredLayerCount(); ++i) {
+      const auto layer = static_cast<LayerId>(i);
+      if (!tree.IsVisible(layer)) continue;
+      layers.push_back({tree.ColorOfLayer(layer), QString::fromStdString(LayerLabel(session_->A().layers[i]))});
+    }
+  }
+  (new Legend(layers, this))->show();
 }
 
 void MainWindow::ShowAbout() {

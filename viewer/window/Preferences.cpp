@@ -13,9 +13,11 @@ using oxkutils::Symbol;
 
 constexpr const char* kTheme = "OxViewer/Theme";
 constexpr const char* kUnit = "OxViewer/Unit";
+constexpr const char* kLetters = "OxViewer/LettersInSquares";
 constexpr const char* kGrid = "OxViewer/Grid";
 constexpr const char* kLineWidth = "OxViewer/LineWidth";
 constexpr const char* kDim = "OxViewer/DimStrength";
+constexpr const char* kRoom = "OxViewer/RoomAround";
 constexpr const char* kGridUnit = "OxViewer/GridUnit";
 constexpr const char* kLineWidthUnit = "OxViewer/LineWidthUnit";
 
@@ -77,9 +79,11 @@ Remembered ReadPreferences() {
   for (const DisplayUnit known : {DisplayUnit::Mil, DisplayUnit::Inch}) {
     if (unit == NameOf(known)) remembered.unit = known;
   }
+  remembered.letters = Read(kLetters) == "yes";
   ReadNumber(kGrid, ViewSettings::kLargestGrid, remembered.view.grid);
   ReadNumber(kLineWidth, ViewSettings::kLargestLineWidth, remembered.view.lineWidth);
   ReadNumber(kDim, 1, remembered.view.dimStrength);
+  ReadNumber(kRoom, ViewSettings::kLargestRoom, remembered.view.room);
   remembered.viewUnits = {Read(kGridUnit), Read(kLineWidthUnit)};
   return remembered;
 }
@@ -87,9 +91,11 @@ Remembered ReadPreferences() {
 void WritePreferences(const Remembered& remembered) {
   Write(kTheme, NameOf(remembered.theme));
   Write(kUnit, NameOf(remembered.unit));
+  Write(kLetters, remembered.letters ? "yes" : "no");
   WriteNumber(kGrid, remembered.view.grid);
   WriteNumber(kLineWidth, remembered.view.lineWidth);
   WriteNumber(kDim, remembered.view.dimStrength);
+  WriteNumber(kRoom, remembered.view.room);
   Write(kGridUnit, remembered.viewUnits[0]);
   Write(kLineWidthUnit, remembered.viewUnits[1]);
   oxk::World::GetWorld()->SaveAndApplyPreferences();

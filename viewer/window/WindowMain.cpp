@@ -12,6 +12,7 @@
 #include <unistd.h>
 #include <cstdlib>
 
+#include <oxk/PreferencesFolder.h>
 #include <uiox_qt/QtFront.h>
 
 namespace oxviewer {
@@ -40,6 +41,8 @@ int Show(const LoadedBoards& boards, int& argc, char** argv) {
   uiox_qt::QtFront front;
   MainWindow window(front, remembered, true);
   window.resize(boards.b ? 1640 : 1280, 860);
+  const std::string folder = oxk::UserPreferencesFolder();
+  if (!folder.empty()) window.KeepTreesIn(QFile::decodeName(folder.c_str()) + "/oxviewer-trees.json");
   window.ShowBoards(boards);
   window.show();
   return QApplication::exec();

@@ -44,9 +44,9 @@ class CompareTreeTest : public ::testing::Test {
   int changes_ = 0;
 };
 
-const std::string kBoth = "\tstate=0\tcolor=none\ta=#56b4e9\tb=#e68a00\toverlap=#a8b0b8\tshow=both\tdim=0";
-const std::string kOnlyA = "\tstate=0\tcolor=none\ta=#56b4e9\tb=none\toverlap=none\tshow=both\tdim=0";
-const std::string kOnlyB = "\tstate=0\tcolor=none\ta=none\tb=#e68a00\toverlap=none\tshow=both\tdim=0";
+const std::string kBoth = "\tstate=0\tcolor=none\ta=#d97706\tb=#3b8be8\toverlap=#6f747a\tshow=both\tdim=0";
+const std::string kOnlyA = "\tstate=0\tcolor=none\ta=#d97706\tb=none\toverlap=none\tshow=both\tdim=0";
+const std::string kOnlyB = "\tstate=0\tcolor=none\ta=none\tb=#3b8be8\toverlap=none\tshow=both\tdim=0";
 
 TEST_F(CompareTreeTest, DumpHasFiveCellsAndTheDifferenceOfEachNode) {
   const std::string type = "\ttype=colorvis";
@@ -76,7 +76,7 @@ TEST_F(CompareTreeTest, ColourOfOneNetMakesItsHeadingMixed) {
   oxcore::QueueColorAnswer(0x0000FF);
   ASSERT_TRUE(user_.ClickCell(CompareTree::kName, "net:N9", "b"));
   EXPECT_EQ(Look("net:N9").colorB, 0x0000FFu);
-  EXPECT_NE(trees_.Dump().find("  Nets\ttype=colorvis\tstate=0\tcolor=none\ta=#56b4e9\tb=mix"), std::string::npos);
+  EXPECT_NE(trees_.Dump().find("  Nets\ttype=colorvis\tstate=0\tcolor=none\ta=#d97706\tb=mix"), std::string::npos);
 }
 
 TEST_F(CompareTreeTest, ChosenShowModeIsThatOfTheBranch) {

@@ -41,6 +41,15 @@ TEST_F(ViewSettingsTest, BeginWithTheirValues) {
   EXPECT_EQ(Text("dim"), L"75");
 }
 
+TEST_F(ViewSettingsTest, RoomMayBeReckoned) {
+  Enter("room", L"1.5mm + 20mil");
+  EXPECT_EQ(Text("room"), L"2.008");
+  EXPECT_EQ(settings_.Values().room, 2.008);
+  EXPECT_EQ(changes_, 1);
+  Enter("room", L"3 +");
+  EXPECT_EQ(Text("room"), L"2.008");
+}
+
 TEST_F(ViewSettingsTest, CountWhenTheFieldIsLeft) {
   ASSERT_TRUE(user_.FocusIn("grid"));
   ASSERT_TRUE(user_.SetText("grid", L"2.5"));

@@ -15,9 +15,9 @@
 namespace oxviewer::testing {
 namespace {
 
-constexpr QRgb kA = 0x56B4E9;
-constexpr QRgb kB = 0xE68A00;
-constexpr QRgb kBothHave = 0xA8B0B8;
+constexpr QRgb kA = 0xD97706;
+constexpr QRgb kB = 0x3B8BE8;
+constexpr QRgb kBothHave = 0x6F747A;
 constexpr QRgb kBackground = 0x161B21;
 
 enum Column { kColumnShow = 1, kColumnA, kColumnB, kColumnOverlap, kColumnDim };

@@ -1,0 +1,61 @@
+/// \file
+/// What the user did in the trees, step by step, there and back.
+#ifndef OXECAD_VIEWER_WINDOW_HISTORY_H
+#define OXECAD_VIEWER_WINDOW_HISTORY_H
+
+#include <viewer/window/TreeMemory.h>
+
+#include <QObject>
+#include <QTimer>
+
+#include <cstddef>
+#include <deque>
+#include <memory>
+#include <vector>
+
+namespace oxviewer {
+
+/// Undoes and redoes what changed colours, checks, selections and show modes. A gesture is all that changes until
+/// control returns to the event loop; it becomes a step by reading the trees before and after it. Steps of one gesture
+/// in several trees are one step. The oldest of more than 1000 steps is forgotten.
+class History : public QObject {
+  Q_OBJECT
+
+ public:
+  static constexpr std::size_t kMostSteps = 1000;
+
+  explicit History(QObject* parent = nullptr);
+
+  /// Follows a filled tree from now on, as long as it lives or until `Clear`.
+  void Follow(uiox::TreeWidget& tree, TreeMemory::Objects objects = {});
+  /// Forgets all steps and trees; before the trees are filled anew.
+  void Clear();
+
+  bool CanUndo() const { return !done_.empty(); }
+  bool CanRedo() const { return !undone_.empty(); }
+  void Undo();
+  void Redo();
+  /// Makes a step of what has changed so far.
+  void Settle();
+
+ Q_SIGNALS:
+  /// There are other steps to undo or redo.
+  void StepsChanged();
+  /// A step was undone or redone: what the trees say has changed.
+  void Restored();
+
+ private:
+  using Step = std::vector<TreeStep>;  // by tree
+
+  void Put(std::deque<Step>& from, std::deque<Step>& to, bool before);
+
+  std::vector<std::unique_ptr<TreeMemory>> trees_;
+  std::deque<Step> done_;
+  std::deque<Step> undone_;
+  QTimer settle_;
+  bool restoring_ = false;
+};
+
+}  // namespace oxviewer
+
+#endif  // OXECAD_VIEWER_WINDOW_HISTORY_H
