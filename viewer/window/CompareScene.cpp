@@ -10,7 +10,7 @@ namespace {
 
 using ShowMode = oxk::ecad::CompareColorVis::ShowMode;
 constexpr QRgb kSolid = qRgba(0xFF, 0xFF, 0xFF, 0xFF);
-constexpr double kZoneOpacity = 0.4;
+constexpr double kZoneOpacity = 0.2;
 
 QRgb ToRgb(Color color) { return qRgb(RedOf(color), GreenOf(color), BlueOf(color)); }
 
