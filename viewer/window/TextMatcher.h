@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <QString>
 
+#include <string>
 #include <string_view>
 
 namespace oxviewer {
@@ -28,12 +29,15 @@ class TextMatcher {
   /// What is wrong with the expression, for the user; empty when nothing is. A wrong expression matches nothing.
   QString Error() const;
   bool Matches(const QString& name) const;
+  /// The same for the toolkit's labels; what is plain ASCII is searched where it stands.
+  bool MatchesWide(std::wstring_view name) const;
   /// The same for UTF-8.
   bool MatchesUtf8(std::string_view name) const;
 
  private:
   QString text_;
   SearchSyntax syntax_ = SearchSyntax::Text;
+  std::wstring folded_;  // in lower case; empty where it is not ASCII
   QRegularExpression expression_;
 };
 

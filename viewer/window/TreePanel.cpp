@@ -62,8 +62,8 @@ void TreePanel::Refilter() {
   }
   const bool markup = view_->Model().ColumnAt(0).markup;
   view_->SetFilter([matcher, markup](const uiox::TreeStore& store, uiox::NodeId node) {
-    const QString label = uiox_qt::FromWide(store.Label(node));
-    return matcher.Matches(markup ? uiox_qt::PlainText(label) : label);
+    const std::wstring label = store.Label(node);
+    return markup ? matcher.Matches(uiox_qt::PlainText(uiox_qt::FromWide(label))) : matcher.MatchesWide(label);
   });
 }
 
