@@ -5,7 +5,7 @@
 set -euo pipefail
 build=$1
 cd "$(dirname "${BASH_SOURCE[0]}")"
-./exported_symbols.sh "$build/uicomps/liboxecad_ui.so" /dev/null "$build/tests/interface" >/dev/null || true
+./exported_symbols.sh "$build/uicomps/liboxecad_ui.so" /dev/null "$build/tests/interface" >/dev/null 2>&1 || true
 cp "$build/tests/interface/exported_symbols.txt" .
 ./abi.sh write "$build/tests/package/against_another_toolkit/oxecad_ui/uicomps/liboxecad_ui.so" oxecad_ui.abi
 git diff --stat -- exported_symbols.txt oxecad_ui.abi
