@@ -3,6 +3,7 @@
 #ifndef OXECAD_VIEWER_TREES_PANELS_H
 #define OXECAD_VIEWER_TREES_PANELS_H
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -16,9 +17,12 @@ constexpr const char* kObjectsPanel = "oxviewer.objects";
 constexpr const char* kComparePanel = "oxviewer.compare";
 constexpr const char* kSettingsPanel = "oxviewer.settings";
 
-/// Makes the viewer's devices where they are missing, from the descriptions that are part of the program. Throws
-/// std::logic_error, which says why, when a description is wrong.
-void CreatePanels();
+/// Gives a text of a description in another language.
+using TranslateText = std::function<std::string(const std::string&)>;
+
+/// Makes the viewer's devices where they are missing, from the descriptions that are part of the program, with their
+/// titles and labels translated. Throws std::logic_error, which says why, when a description is wrong.
+void CreatePanels(const TranslateText& translate = {});
 
 /// A resource of the program by its file name ("layers.json"); empty when there is none.
 std::string_view EmbeddedResource(std::string_view name);

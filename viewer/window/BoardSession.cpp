@@ -1,5 +1,6 @@
 #include <viewer/window/BoardSession.h>
 
+#include <QCoreApplication>
 #include <QLocale>
 #include <QStringList>
 
@@ -11,6 +12,8 @@
 
 namespace oxviewer {
 namespace {
+
+QString Words(const char* text) { return QCoreApplication::translate("oxviewer::BoardSession", text); }
 
 constexpr double kUnselectedDim = 0.7;
 
@@ -251,26 +254,27 @@ QString BoardSession::DescriptionOf(const Hit& hit) const {
   const auto index = static_cast<std::size_t>(hit.origin.index);
   switch (hit.origin.kind) {
     case ItemKind::Track:
-      words << "Track " + Millimetres(A().tracks[index].width);
+      words << Words("Track %1").arg(Millimetres(A().tracks[index].width));
       break;
     case ItemKind::Via:
-      words << "Via " + Millimetres(A().vias[index].size);
+      words << Words("Via %1").arg(Millimetres(A().vias[index].size));
       break;
     case ItemKind::Zone:
-      words << (A().zones[index].keepout ? "Rule area" : "Zone");
+      words << (A().zones[index].keepout ? Words("Rule area") : Words("Zone"));
       break;
     case ItemKind::Drawing:
-      words << "Drawing";
+      words << Words("Drawing");
       break;
     case ItemKind::Pad:
-      words << "Pad " + Text(A().pads[index].number);
+      words << Words("Pad %1").arg(Text(A().pads[index].number));
       break;
   }
   if (hit.origin.component != kNoComponent) {
     const Component& component = A().components[static_cast<std::size_t>(hit.origin.component)];
     words << Text(ComponentLabel(component)) + (component.value.empty() ? QString() : " " + Text(component.value));
   }
-  if (hit.origin.net != kNoNet) words << "net " + Text(A().nets[static_cast<std::size_t>(hit.origin.net)].name);
+  if (hit.origin.net != kNoNet)
+    words << Words("net %1").arg(Text(A().nets[static_cast<std::size_t>(hit.origin.net)].name));
   words << Text(LayerLabel(A().layers[static_cast<std::size_t>(hit.layer)]));
   return words.join(QStringLiteral("  ·  "));
 }

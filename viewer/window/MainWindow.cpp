@@ -5,6 +5,7 @@
 #include <viewer/window/FilterLine.h>
 #include <viewer/window/History.h>
 #include <viewer/window/KeptTrees.h>
+#include <viewer/window/Languages.h>
 #include <viewer/window/MainWindow.h>
 #include <viewer/window/MainWindowActions.h>
 #include <viewer/window/Mainframe.h>
@@ -87,7 +88,7 @@ MainWindow::MainWindow(uiox_qt::QtFront& front, const Remembered& remembered, bo
       facts_(new QLabel) {
   setAcceptDrops(true);
   front_.SetMainWindow(this);
-  CreatePanels();
+  CreatePanels(&TranslatedResourceText);
   settings_ = std::make_unique<ViewSettings>(kSettingsPanel);
   settings_->Init();
   settings_->SetUnits(remembered_.viewUnits);

@@ -76,6 +76,7 @@ class MainWindow : public QMainWindow {
   void MakeHelpMenu();
   void MakeThemeMenu(QMenu& menu);
   void MakeUnitMenu(QMenu& menu);
+  void MakeLanguageMenu(QMenu& menu);
   void MakeLayerMenu(QMenu& menu);
   void MakeContextMenus();
   void MakeStatusBar();

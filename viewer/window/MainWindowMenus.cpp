@@ -13,6 +13,7 @@
 #include <QFileDialog>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QStatusBar>
 #include <QToolBar>
 
 #include <functional>
@@ -105,6 +106,7 @@ void MainWindow::MakeViewMenu() {
   MakeLayerMenu(*menu.addMenu(tr("&Layers")));
   MakeUnitMenu(*menu.addMenu(tr("&Units")));
   MakeThemeMenu(*menu.addMenu(tr("&Theme")));
+  MakeLanguageMenu(*menu.addMenu(tr("Language")));
   QAction* letters = menu.addAction(tr("&Letters in colour squares"));
   letters->setCheckable(true);
   letters->setChecked(remembered_.letters);
@@ -162,6 +164,22 @@ void MainWindow::MakeThemeMenu(QMenu& menu) {
       remembered_.theme = chosen;
       ApplyTheme(chosen);
       Keep();
+    });
+  }
+}
+
+void MainWindow::MakeLanguageMenu(QMenu& menu) {
+  auto* group = new QActionGroup(this);
+  const std::pair<const char*, QString> languages[] = {
+      {"system", tr("As the &system")}, {"en", tr("&English")}, {"de", tr("&German")}};
+  for (const auto& [language, text] : languages) {
+    QAction* action = group->addAction(menu.addAction(text));
+    action->setCheckable(true);
+    action->setChecked(remembered_.language == language);
+    connect(action, &QAction::triggered, this, [this, chosen = std::string(language)] {
+      remembered_.language = chosen;
+      Keep();
+      statusBar()->showMessage(tr("The language changes when the program is started again"));
     });
   }
 }
@@ -248,24 +266,27 @@ void MainWindow::SavePicture() {
 }
 
 void MainWindow::ShowShortcuts() {
-  QMessageBox::information(
-      this, tr("Keys and mouse"),
-      tr("<table cellpadding=3>"
-         "<tr><td>Wheel</td><td>zoom at the pointer (Shift: sideways, Ctrl: up and down)</td></tr>"
-         "<tr><td>Drag</td><td>move the board</td></tr>"
-         "<tr><td>Click, Ctrl+click</td><td>select what lies there, add to the selection</td></tr>"
-         "<tr><td>Double click, F, Home</td><td>the whole board</td></tr>"
-         "<tr><td>+, −, arrows</td><td>zoom, move</td></tr>"
-         "<tr><td>Ctrl+E</td><td>show the selection</td></tr>"
-         "<tr><td>Ctrl+H, Ctrl+I, Esc (on the board also H, I)</td><td>highlight, isolate, clear</td></tr>"
-         "<tr><td>A letter in a tree</td><td>narrow the tree to names with it</td></tr>"
-         "<tr><td>F3, Shift+F3</td><td>next and previous difference</td></tr>"
-         "<tr><td>Double click or Enter on a layer</td><td>choose its colour</td></tr>"
-         "<tr><td>Space on a layer</td><td>show or hide it, or all that are selected</td></tr>"
-         "<tr><td>Shift+click, drag over boxes</td><td>show or hide several layers</td></tr>"
-         "<tr><td>Ctrl+C in a tree</td><td>copy the selected names</td></tr>"
-         "<tr><td>Shift+Right in a tree</td><td>expand all below</td></tr>"
-         "</table>"));
+  const std::pair<QString, QString> rows[] = {
+      {tr("Wheel"), tr("zoom at the pointer (Shift: sideways, Ctrl: up and down)")},
+      {tr("Drag"), tr("move the board")},
+      {tr("Click, Ctrl+click"), tr("select what lies there, add to the selection")},
+      {tr("Double click, F, Home"), tr("the whole board")},
+      {tr("+, −, arrows"), tr("zoom, move")},
+      {tr("Ctrl+E"), tr("show the selection")},
+      {tr("Ctrl+H, Ctrl+I, Esc (on the board also H, I)"), tr("highlight, isolate, clear")},
+      {tr("Ctrl+Z, Ctrl+Shift+Z"), tr("undo and redo colours, checks and selections")},
+      {tr("F3, Shift+F3"), tr("next and previous difference")},
+      {tr("A letter in a tree"), tr("narrow the tree to names with it")},
+      {tr("Ctrl+C in a tree"), tr("copy the selected names")},
+      {tr("Shift+Right in a tree"), tr("expand all below")},
+      {tr("Double click or Enter on a layer"), tr("choose its colour")},
+      {tr("Space on a layer"), tr("show or hide it, or all that are selected")},
+      {tr("Shift+click, drag over boxes"), tr("show or hide several layers")}};
+  QString table = QStringLiteral("<table cellpadding=3>");
+  for (const auto& [key, what] : rows) {
+    table += QStringLiteral("<tr><td>%1</td><td>%2</td></tr>").arg(key.toHtmlEscaped(), what.toHtmlEscaped());
+  }
+  QMessageBox::information(this, tr("Keys and mouse"), table + QStringLiteral("</table>"));
 }
 
 void MainWindow::ShowLegend() {

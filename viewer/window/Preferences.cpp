@@ -13,6 +13,7 @@ using oxkutils::Symbol;
 
 constexpr const char* kTheme = "OxViewer/Theme";
 constexpr const char* kUnit = "OxViewer/Unit";
+constexpr const char* kLanguage = "OxViewer/Language";
 constexpr const char* kLetters = "OxViewer/LettersInSquares";
 constexpr const char* kGrid = "OxViewer/Grid";
 constexpr const char* kLineWidth = "OxViewer/LineWidth";
@@ -79,6 +80,9 @@ Remembered ReadPreferences() {
   for (const DisplayUnit known : {DisplayUnit::Mil, DisplayUnit::Inch}) {
     if (unit == NameOf(known)) remembered.unit = known;
   }
+  for (const char* language : {"en", "de"}) {
+    if (Read(kLanguage) == language) remembered.language = language;
+  }
   remembered.letters = Read(kLetters) == "yes";
   ReadNumber(kGrid, ViewSettings::kLargestGrid, remembered.view.grid);
   ReadNumber(kLineWidth, ViewSettings::kLargestLineWidth, remembered.view.lineWidth);
@@ -91,6 +95,7 @@ Remembered ReadPreferences() {
 void WritePreferences(const Remembered& remembered) {
   Write(kTheme, NameOf(remembered.theme));
   Write(kUnit, NameOf(remembered.unit));
+  Write(kLanguage, remembered.language);
   Write(kLetters, remembered.letters ? "yes" : "no");
   WriteNumber(kGrid, remembered.view.grid);
   WriteNumber(kLineWidth, remembered.view.lineWidth);

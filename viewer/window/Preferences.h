@@ -19,7 +19,8 @@ enum class DisplayUnit { Millimetre, Mil, Inch };
 struct Remembered {
   Theme theme = Theme::System;
   DisplayUnit unit = DisplayUnit::Millimetre;
-  bool letters = false;  ///< letters in colour squares
+  std::string language = "system";  ///< "system", "en" or "de"
+  bool letters = false;             ///< letters in colour squares
   ViewSettingValues view;
   std::array<std::string, 2> viewUnits{"mm", "mm"};
 };

@@ -1,4 +1,5 @@
 #include <viewer/window/BoardView.h>
+#include <viewer/window/Languages.h>
 #include <viewer/window/MainWindow.h>
 #include <viewer/window/Theme.h>
 #include <viewer/window/WindowMain.h>
@@ -38,6 +39,8 @@ int Show(const LoadedBoards& boards, int& argc, char** argv) {
   QApplication::setApplicationName(QStringLiteral("oxviewer"));
   const Remembered remembered = ReadPreferences();
   ApplyTheme(remembered.theme);
+  const auto translator = TranslatorFor(remembered.language);
+  if (translator) QApplication::installTranslator(translator.get());
   uiox_qt::QtFront front;
   MainWindow window(front, remembered, true);
   window.resize(boards.b ? 1640 : 1280, 860);

@@ -1,0 +1,123 @@
+#include <viewer/window/Languages.h>
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTabBar>
+
+#include <gtest/gtest.h>
+#include <tests/viewer/window/WindowFixture.h>
+
+#include <set>
+#include <string>
+
+#include <uiox_qt/ImageWords.h>
+#include <uiox_qt/NodeWords.h>
+
+namespace oxviewer::testing {
+namespace {
+
+constexpr QChar kOpen(0x27E6);
+constexpr QChar kClose(0x27E7);
+
+/// Puts each text that is to be translated in brackets, and remembers it.
+class BracketTranslator : public QTranslator {
+ public:
+  bool isEmpty() const override { return false; }
+  QString translate(const char* context, const char* text, const char*, int) const override {
+    const std::string owner(context);
+    if (owner.rfind("oxviewer", 0) != 0 && owner.rfind("uiox_qt", 0) != 0 && owner != "resources") return {};
+    asked_.insert(text);
+    return kOpen + QString::fromUtf8(text) + kClose;
+  }
+  const std::set<std::string>& Asked() const { return asked_; }
+
+ private:
+  mutable std::set<std::string> asked_;
+};
+
+class LanguagesTest : public WindowFixture {
+ protected:
+  void SetUp() override {
+    QCoreApplication::installTranslator(&brackets_);
+    WindowFixture::SetUp();
+    Compare(SmallBoard(kWindowBoard), SmallBoard("(net 0 \"\") (net 1 \"GND\")"));
+  }
+  void TearDown() override {
+    WindowFixture::TearDown();
+    QCoreApplication::removeTranslator(&brackets_);
+  }
+
+  /// Brings up what is not there from the beginning.
+  void ShowEverything() {
+    for (QAction* action : Window().findChildren<QAction*>()) {
+      if (action->text().contains("Legend")) action->trigger();
+    }
+    Soon([] { qobject_cast<QDialog*>(QApplication::activeModalWidget())->reject(); });
+    QTest::keyClick(&Window(), Qt::Key_F1);
+    Settle();
+    for (int i = 0; i < 0x1000000; i += 0x2F353) uiox_qt::ColorWord(static_cast<QRgb>(i));
+    for (TreePanel* panel : {&Window().LayersPanel(), &Window().Comparison().Panel()}) {
+      const uiox_qt::TreeModel& model = panel->View().Model();
+      const QModelIndex top = model.index(0, 0);
+      for (int column = 0; column < model.columnCount(); ++column) {
+        for (const QModelIndex& row : {top, model.index(0, 0, top)}) {
+          uiox_qt::ItemTip(model, row.siblingAtColumn(column), true);
+          uiox_qt::ItemFacts(model, row.siblingAtColumn(column));
+        }
+      }
+    }
+  }
+
+  BracketTranslator brackets_;
+};
+
+TEST_F(LanguagesTest, EveryTextOfTheWindowIsTranslated) {
+  ShowEverything();
+  const auto expect = [](const QString& text, const char* what) {
+    QString shown = text;
+    shown.remove('&');
+    const bool words = std::any_of(shown.begin(), shown.end(), [](QChar c) { return c.isLetter(); });
+    if (!words) return;
+    EXPECT_TRUE(shown.contains(kOpen)) << what << ": " << shown.toStdString();
+  };
+  for (const QAction* action : Window().findChildren<QAction*>()) expect(action->text(), "action");
+  for (const QMenu* menu : Window().findChildren<QMenu*>()) expect(menu->title(), "menu");
+  for (const QAbstractButton* button : Window().findChildren<QAbstractButton*>()) expect(button->text(), "button");
+  for (const QLineEdit* line : Window().findChildren<QLineEdit*>()) expect(line->placeholderText(), "placeholder");
+  for (const QTabBar* tabs : Window().findChildren<QTabBar*>()) {
+    for (int i = 0; i < tabs->count(); ++i) expect(tabs->tabText(i), "tab");
+  }
+  for (const QLabel* label : Window().findChildren<QLabel*>()) {
+    if (label->text() != "%" && label->text() != "mm") expect(label->text(), "label");
+  }
+  const QAbstractItemModel& compare = Window().Comparison().Panel().View().Model();
+  for (int i = 0; i < compare.columnCount(); ++i) expect(compare.headerData(i, Qt::Horizontal).toString(), "column");
+}
+
+TEST_F(LanguagesTest, GermanHasEveryTextThatIsAskedFor) {
+  ShowEverything();
+  const auto german = TranslatorFor("de");
+  ASSERT_TRUE(german);
+  EXPECT_GT(brackets_.Asked().size(), 120u);
+  for (const std::string& text : brackets_.Asked()) {
+    EXPECT_TRUE(text.empty() || german->Has(QString::fromStdString(text))) << text;
+  }
+}
+
+TEST(Languages, EnglishNeedsNoTable) {
+  EXPECT_EQ(TranslatorFor("en"), nullptr);
+  EXPECT_EQ(TranslatorFor("xx"), nullptr);
+}
+
+TEST(Languages, TextThatTheTableDoesNotHaveStays) {
+  const TableTranslator table(R"({"Nets": "Netze"})");
+  EXPECT_EQ(table.translate("any", "Nets", nullptr, -1), "Netze");
+  EXPECT_TRUE(table.translate("any", "Grid", nullptr, -1).isNull());
+}
+
+}  // namespace
+}  // namespace oxviewer::testing
