@@ -48,10 +48,15 @@ rm -rf "$system" "$admin"
 mkdir -p "$system" "$admin/info" "$admin/updates" "$admin/triggers"
 cp /var/lib/dpkg/status "$admin/status"
 touch "$admin/available"
+# Scripts of packages run in this system; its cache of libraries is none of their business here.
+mkdir -p "$work/bin"
+printf '#!/bin/sh\n' >"$work/bin/ldconfig"
+chmod +x "$work/bin/ldconfig"
 own_dpkg() {
   local as_root=()
   [ "$(id -u)" = 0 ] || as_root=(fakeroot)
-  "${as_root[@]}" dpkg --instdir="$system" --admindir="$admin" --force-script-chrootless --log=/dev/null "$@" >"$work/dpkg.log" 2>&1 || {
+  PATH=$work/bin:/usr/sbin:/sbin:$PATH "${as_root[@]}" dpkg --instdir="$system" --admindir="$admin" \
+    --force-script-chrootless --log=/dev/null "$@" >"$work/dpkg.log" 2>&1 || {
     cat "$work/dpkg.log" >&2
     die "dpkg $1 failed"
   }
@@ -71,8 +76,9 @@ version=$(dpkg-deb -f "${packages[0]}" Version)
 "$system/usr/bin/oxviewer" --version | grep -qF "$version" || die "oxviewer does not say its version"
 "$system/usr/bin/oxviewer" "$root/viewer/samples/node-a.kicad_pcb" --screenshot "$work/board.png" --size 800x600
 [ -s "$work/board.png" ] || die "oxviewer painted nothing"
-cmake -S "$root/tests/package/stranger" -B "$work/stranger" -DCMAKE_PREFIX_PATH="$system/usr" -DCMAKE_LIBRARY_ARCHITECTURE="$(dpkg-architecture -qDEB_HOST_MULTIARCH)" \
-  -DOXECAD_UI_VERSION_EXPECTED="$version" >"$work/stranger.log" && cmake --build "$work/stranger" >>"$work/stranger.log"
+cmake -S "$root/tests/package/stranger" -B "$work/stranger" -DCMAKE_PREFIX_PATH="$system/usr" \
+  -DOXECAD_UI_VERSION_EXPECTED="$version" >"$work/stranger.log"
+cmake --build "$work/stranger" >>"$work/stranger.log"
 "$work/stranger/stranger" | grep -q "^$version DQ1 DQ9 DQ10$" || die "the stranger's program says something else"
 [ -s "$system/usr/share/doc/liboxecad-ui-doc/html/index.html" ] || die "the documentation is missing"
 gzip -t "$system/usr/share/man/man1/oxviewer.1.gz"
