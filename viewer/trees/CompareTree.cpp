@@ -3,6 +3,7 @@
 #include <viewer/trees/LayerTree.h>
 #include <viewer/trees/NaturalNames.h>
 #include <viewer/trees/NodeName.h>
+#include <viewer/trees/TreeTexts.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -47,7 +48,7 @@ std::string Joined(const std::vector<Finding>& findings) {
   std::string text;
   for (const Finding finding : findings) {
     if (!text.empty()) text += ", ";
-    text += NameOf(finding);
+    text += TreeText(NameOf(finding));
   }
   return text;
 }
@@ -55,11 +56,11 @@ std::string Joined(const std::vector<Finding>& findings) {
 void AppendCount(std::size_t count, const char* what, std::string& text) {
   if (count == 0) return;
   if (!text.empty()) text += ", ";
-  text += std::to_string(count) + ' ' + what;
+  text += std::to_string(count) + ' ' + TreeText(what);
 }
 
 std::string SummaryOf(const SectionDiff& section) {
-  if (section.Equal()) return "equal";
+  if (section.Equal()) return TreeText("equal");
   std::string text;
   AppendCount(section.changed.size(), "changed", text);
   AppendCount(section.onlyA.size(), "only in A", text);
@@ -77,8 +78,8 @@ std::vector<Entry> EntriesOf(Kind kind, const SectionDiff& section) {
   const auto add = [&](const std::string& name, std::int32_t a, std::int32_t b, std::string difference) {
     entries.push_back({{kind, {}, name, a, b, !difference.empty()}, std::move(difference)});
   };
-  for (const Unmatched& item : section.onlyA) add(item.name, item.id, -1, "only in A");
-  for (const Unmatched& item : section.onlyB) add(item.name, -1, item.id, "only in B");
+  for (const Unmatched& item : section.onlyA) add(item.name, item.id, -1, TreeText("only in A"));
+  for (const Unmatched& item : section.onlyB) add(item.name, -1, item.id, TreeText("only in B"));
   for (const Matched& item : section.changed) add(item.name, item.a, item.b, Joined(item.findings));
   for (const Matched& item : section.equal) add(item.name, item.a, item.b, {});
   return entries;
@@ -94,9 +95,9 @@ void NameRenamed(const std::vector<RenamedNet>& renamed, std::vector<Entry>& ent
   }
   for (Entry& entry : entries) {
     if (entry.subject.b < 0 && inB.count(entry.subject.a) > 0) {
-      entry.difference += ", in B " + *inB.at(entry.subject.a);
+      entry.difference += ", " + TreeText("in B") + ' ' + *inB.at(entry.subject.a);
     } else if (entry.subject.a < 0 && inA.count(entry.subject.b) > 0) {
-      entry.difference += ", in A " + *inA.at(entry.subject.b);
+      entry.difference += ", " + TreeText("in A") + ' ' + *inA.at(entry.subject.b);
     }
   }
 }
@@ -136,10 +137,10 @@ CompareTree::~CompareTree() { CompareColorTree::Clear(); }
 void CompareTree::Fill(oxcore::Mainframe* mainframe) {
   Init(mainframe);
   SetRedraw(false);
-  AddHeading(kRoot, Utf8ToWideStr(FileName(a_.name) + " and " + FileName(b_.name)), true);
-  AddHeading(kLayers, L"Layers", !diff_.layers.Equal());
-  AddHeading(kComponents, L"Components", !diff_.components.Equal());
-  AddHeading(kNets, L"Nets", !diff_.nets.Equal());
+  AddHeading(kRoot, Utf8ToWideStr(FileName(a_.name) + ' ' + TreeText("and") + ' ' + FileName(b_.name)), true);
+  AddHeading(kLayers, WideTreeText("Layers"), !diff_.layers.Equal());
+  AddHeading(kComponents, WideTreeText("Components"), !diff_.components.Equal());
+  AddHeading(kNets, WideTreeText("Nets"), !diff_.nets.Equal());
   AddSection(Kind::Layer, kLayers, diff_.layers);
   AddSection(Kind::Component, kComponents, diff_.components);
   AddSection(Kind::Net, kNets, diff_.nets);

@@ -1,6 +1,7 @@
 #include <viewer/trees/ComponentTree.h>
 #include <viewer/trees/NodeName.h>
 #include <viewer/trees/ReferencePrefix.h>
+#include <viewer/trees/TreeTexts.h>
 
 #include <set>
 #include <unordered_map>
@@ -44,7 +45,7 @@ ComponentTree::ComponentTree(const char* device, const Board& board)
 void ComponentTree::Fill() {
   Init();
   SetRedraw(false);
-  BaseTree::AddNode(kRoot, L"Components", "", "components", L"", 1, 1, 0, nullptr);
+  BaseTree::AddNode(kRoot, WideTreeText("Components").c_str(), "", "components", L"", 1, 1, 0, nullptr);
   constexpr const char* kNoReferenceNode = "SelAll_:";
   bool nameless = false;
   std::set<std::string> groups;

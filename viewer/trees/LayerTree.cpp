@@ -1,5 +1,6 @@
 #include <viewer/trees/LayerTree.h>
 #include <viewer/trees/NodeName.h>
+#include <viewer/trees/TreeTexts.h>
 
 #include <algorithm>
 #include <array>
@@ -80,10 +81,10 @@ void LayerTree::Fill(oxcore::Mainframe* mainframe) {
 }
 
 void LayerTree::AddGroups() {
-  BaseTree::AddNode(kRoot, L"Layers", "", s_colorlessType, L"", 1, 1, 0, nullptr);
-  AddNode(kCopperGroup, L"Copper", kRoot, kNoColor, 0, L"", 1, 1);
-  AddNode(kTechnicalGroup, L"Technical", kRoot, kNoColor, 0, L"", 1, 1);
-  BaseTree::AddNode(kActiveGroup, L"Active layer", kRoot, s_colorlessType, L"", 1, 1, 0, nullptr);
+  BaseTree::AddNode(kRoot, WideTreeText("Layers").c_str(), "", s_colorlessType, L"", 1, 1, 0, nullptr);
+  AddNode(kCopperGroup, WideTreeText("Copper").c_str(), kRoot, kNoColor, 0, L"", 1, 1);
+  AddNode(kTechnicalGroup, WideTreeText("Technical").c_str(), kRoot, kNoColor, 0, L"", 1, 1);
+  BaseTree::AddNode(kActiveGroup, WideTreeText("Active layer").c_str(), kRoot, s_colorlessType, L"", 1, 1, 0, nullptr);
   SetCheckSensitive(kActiveGroup, false);
   AddSingleCheckBranch(kActiveGroup);
 }

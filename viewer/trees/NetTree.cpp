@@ -1,5 +1,6 @@
 #include <viewer/trees/NetTree.h>
 #include <viewer/trees/NodeName.h>
+#include <viewer/trees/TreeTexts.h>
 
 #include <vector>
 
@@ -25,7 +26,7 @@ std::string NetTree::NodeOf(const Net& net) { return NodeName(kNetKind, net.name
 void NetTree::Fill() {
   Init();
   SetRedraw(false);
-  BaseTree::AddNode(kRoot, L"Nets", "", "nets", L"", 1, 1, 0, nullptr);
+  BaseTree::AddNode(kRoot, WideTreeText("Nets").c_str(), "", "nets", L"", 1, 1, 0, nullptr);
   std::vector<std::string> classNodes;
   for (const NetClass& netClass : board_.netClasses) {
     classNodes.push_back(SelectAllName(netClass.name));

@@ -5,6 +5,7 @@
 #include <viewer/trees/PartKinds.h>
 #include <viewer/trees/PartTree.h>
 #include <viewer/trees/TextSearch.h>
+#include <viewer/trees/TreeTexts.h>
 
 #include <algorithm>
 #include <memory>
@@ -29,7 +30,7 @@ constexpr const char* kKindType = "partkind";
 std::string KindNode(std::size_t kind) { return "kind:" + std::to_string(kind); }
 
 // A branch's label before anything is counted.
-std::wstring BranchLabel(const char* name) { return L"<b>" + Utf8ToWideStr(name) + L" (0)</b>"; }
+std::wstring BranchLabel(const char* name) { return L"<b>" + WideTreeText(name) + L" (0)</b>"; }
 
 std::wstring PartLabel(const Component& component) {
   std::wstring label = EscapedMarkup(Utf8ToWideStr(ComponentLabel(component)));

@@ -59,6 +59,7 @@ void Legend::AddHeading(const QString& text) {
   font.setBold(true);
   heading->setFont(font);
   grid_->addWidget(heading, 0, column_, 1, 2);
+  grid_->setColumnStretch(column_ + 1, 1);
 }
 
 void Legend::AddColor(const LegendColor& color) {

@@ -1,4 +1,5 @@
 #include <viewer/trees/Panels.h>
+#include <viewer/trees/TreeTexts.h>
 #include <viewer/window/BoardSession.h>
 #include <viewer/window/BoardView.h>
 #include <viewer/window/ComparePanel.h>
@@ -89,6 +90,7 @@ MainWindow::MainWindow(uiox_qt::QtFront& front, const Remembered& remembered, bo
   setAcceptDrops(true);
   front_.SetMainWindow(this);
   CreatePanels(&TranslatedResourceText);
+  SetTreeTexts(&TranslatedResourceText);
   settings_ = std::make_unique<ViewSettings>(kSettingsPanel);
   settings_->Init();
   settings_->SetUnits(remembered_.viewUnits);

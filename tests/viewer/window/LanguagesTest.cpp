@@ -1,3 +1,5 @@
+#include <viewer/trees/PartKinds.h>
+#include <viewer/trees/TreeTexts.h>
 #include <viewer/window/Languages.h>
 
 #include <QAbstractButton>
@@ -49,10 +51,17 @@ class LanguagesTest : public WindowFixture {
   void TearDown() override {
     WindowFixture::TearDown();
     QCoreApplication::removeTranslator(&brackets_);
+    SetTreeTexts({});
   }
 
   /// Brings up what is not there from the beginning.
   void ShowEverything() {
+    for (std::size_t kind = 0; kind < PartKindCount(); ++kind) TreeText(PartKindName(kind));
+    for (const Finding finding :
+         {Finding::Renamed, Finding::Type, Finding::Moved, Finding::Rotated, Finding::Side, Finding::Value,
+          Finding::Footprint, Finding::Pads, Finding::Tracks, Finding::Width, Finding::Vias, Finding::Zones}) {
+      TreeText(NameOf(finding));
+    }
     for (QAction* action : Window().findChildren<QAction*>()) {
       if (action->text().contains("Legend")) action->trigger();
     }
@@ -94,6 +103,12 @@ TEST_F(LanguagesTest, EveryTextOfTheWindowIsTranslated) {
   for (const QLabel* label : Window().findChildren<QLabel*>()) {
     if (label->text() != "%" && label->text() != "mm") expect(label->text(), "label");
   }
+  for (const char* node : {"layers:copper", "layers:technical", "layers:active"}) {
+    expect(IndexOf(Window().LayersPanel(), node).data().toString(), node);
+  }
+  expect(IndexOf(Window().Comparison().Panel(), "nets", 6).data().toString(), "summary");
+  expect(IndexOf(Window().Comparison().Panel(), "net:VCC", 6).data().toString(), "difference");
+  expect(IndexOf(Window().PartsPanel(), "kind:3").data().toString(), "kind");
   const QAbstractItemModel& compare = Window().Comparison().Panel().View().Model();
   for (int i = 0; i < compare.columnCount(); ++i) expect(compare.headerData(i, Qt::Horizontal).toString(), "column");
 }
