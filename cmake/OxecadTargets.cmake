@@ -48,7 +48,7 @@ endfunction()
 # watches, but for UNWATCHED: a program that plays the toolkit's own part.
 function(oxecad_test name)
   cmake_parse_arguments(arg "UNWATCHED" "PREFIX" "SOURCES;LIBRARIES" ${ARGN})
-  add_executable(${name} ${arg_SOURCES})
+  add_executable(${name} ${arg_SOURCES} $<TARGET_OBJECTS:test_locale>)
   oxecad_own(${name})
   # The tests' own code is compiled much more often than it is run.
   target_compile_options(${name} PRIVATE -O0)
