@@ -58,7 +58,7 @@ endmacro()
 # The changelog's date is that of the sources, so that two builds give the same bytes.
 set(changelog_time "$ENV{SOURCE_DATE_EPOCH}")
 if(changelog_time STREQUAL "")
-  set(changelog_time 0)
+  file(TIMESTAMP CHANGELOG.md changelog_time "%s" UTC)
 endif()
 execute_process(COMMAND date -u -R -d "@${changelog_time}" OUTPUT_VARIABLE changelog_date OUTPUT_STRIP_TRAILING_WHITESPACE)
 set(changelog "${PROJECT_BINARY_DIR}/packaging/changelog.gz")
@@ -83,7 +83,8 @@ if(TARGET docs)
   install(DIRECTORY "${PROJECT_BINARY_DIR}/docs/html" DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/lib${CPACK_PACKAGE_NAME}-doc"
     COMPONENT documentation)
   install(DIRECTORY examples DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/lib${CPACK_PACKAGE_NAME}-doc"
-    COMPONENT documentation FILES_MATCHING PATTERN "*.cpp" PATTERN "*.res" PATTERN "*.txt" PATTERN "pictures" EXCLUDE)
+    COMPONENT documentation FILES_MATCHING PATTERN "*.cpp" PATTERN "*.res" PATTERN "*.txt" PATTERN "CMakeLists.txt" EXCLUDE
+    PATTERN "pictures" EXCLUDE)
   oxecad_package(documentation lib${CPACK_PACKAGE_NAME}-doc doc
     "user-interface components of an electronic-CAD viewer - documentation"
     "This package holds the documentation as HTML, and the examples." ALL)

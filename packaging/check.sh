@@ -23,7 +23,7 @@ copy_sources() {
   fi | tar -x -C "$1"
 }
 
-export SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git -C "$root" log -1 --format=%ct 2>/dev/null || echo 1700000000)}
+export SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git -C "$root" log -1 --format=%ct 2>/dev/null || stat -c %Y "$root/CHANGELOG.md")}
 for place in one "elsewhere/below"; do
   copy_sources "$work/$place/sources"
   rm -rf "$work/$place/build"
@@ -39,7 +39,7 @@ for package in "${packages[@]}"; do
 done
 say "${#packages[@]} packages, the same bytes from both folders"
 
-lintian --fail-on error --tag-display-limit 0 "${packages[@]}" || die "lintian found errors"
+lintian --fail-on error "${packages[@]}" || die "lintian found errors"
 
 # Installs below a folder of its own.
 system=$work/system
