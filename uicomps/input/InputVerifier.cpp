@@ -69,7 +69,7 @@ void InputVerifier::Clear() {
 
 SmartPtr<InputTest> InputVerifier::GetInputTest(const char* name) const {
   const auto index = m_indices.find(Symbol(TextOrEmpty(name)));
-  const SmartPtr<InputTest> none(nullptr);
+  SmartPtr<InputTest> none(nullptr);
   if (index == m_indices.end()) return none;
   const auto control = m_controls.find(index->second);
   return control != m_controls.end() ? control->second.test : none;

@@ -12,7 +12,7 @@ namespace {
 /// Hands a record over to its collection, which owns it from now on.
 void Append(Tree::TreeInfo& info, std::unique_ptr<Tree::NodeInfo> record) {
   info.records.push_back(record.get());
-  record.release();
+  static_cast<void>(record.release());
 }
 
 }  // namespace
