@@ -40,12 +40,12 @@ TreeWidget* Device::AddTree(std::string_view name, TreeStyle style, Widget* pane
 }
 
 Widget* Device::Adopt(std::unique_ptr<Widget> widget, Widget* panel) {
-  Widget& parent = panel ? *panel : *this;
+  Widget* const parent = panel ? panel : this;
   Widget* added = widget.get();
-  added->parent_ = &parent;
+  added->parent_ = parent;
   owned_.push_back(std::move(widget));
   components_.push_back(added);
-  parent.Need().children.push_back(added);
+  parent->Need().children.push_back(added);
   Remember(*added);
   return added;
 }
