@@ -41,9 +41,9 @@ TreeWidget* Device::AddTree(std::string_view name, TreeStyle style, Widget* pane
 
 Widget* Device::Adopt(std::unique_ptr<Widget> widget, Widget* panel) {
   Widget* const parent = panel ? panel : this;
-  Widget* added = widget.get();
-  added->parent_ = parent;
   owned_.push_back(std::move(widget));
+  Widget* const added = owned_.back().get();
+  added->parent_ = parent;
   components_.push_back(added);
   parent->Need().children.push_back(added);
   Remember(*added);
