@@ -60,6 +60,14 @@ bool CompareColorTree::AddNodeBefore(const CompareNodeInfo& info, const char* be
 }
 
 bool CompareColorTree::OnNodeAdded(const CompareNodeInfo& info) {
+  if (!SetUpNode(info)) return false;
+  ChangeNodeInfo(info.name.c_str(), info.colorA, info.colorB, info.colorOverlap, info.showMode, info.dim,
+                 info.designFlag);
+  return true;
+}
+
+/// Gives a new node its index, and a check button that tells the index.
+bool CompareColorTree::SetUpNode(const CompareNodeInfo& info) {
   const wire::Widget tree = WidgetOf(*this);
   const char* const node = info.name.c_str();
   // The name stays in the list whatever fails behind it, so that no index ever means another node.
@@ -70,11 +78,8 @@ bool CompareColorTree::OnNodeAdded(const CompareNodeInfo& info) {
   if (control == nullptr) return false;
   if (!wire::SetCell(tree, {node, s_dimColumn}, wire::kCellControl(control))) return false;
   const wire::Widget checkButton{GetDevice(), control};
-  if (!wire::SetAction<&CompareColorTree::DimCheckActivatedCB>(checkButton, wire::Reason::Activate, this, index)) {
-    return false;
-  }
-  ChangeNodeInfo(node, info.colorA, info.colorB, info.colorOverlap, info.showMode, info.dim, info.designFlag);
-  return true;
+  return bool(
+      wire::SetAction<&CompareColorTree::DimCheckActivatedCB>(checkButton, wire::Reason::Activate, this, index));
 }
 
 const char* CompareColorTree::GetDimCheckCtrl(const char* node) {

@@ -124,16 +124,23 @@ class OXECAD_UI_EXPORT CompareColorTree : public Tree {
   /// children of each node looked at.
   void ChildInfoChanged(const char* node);
 
+  /// Adds compare nodes in their order, with one redraw. What they leave is what `AddNode` would leave for one after
+  /// the other, and so is the result of each; parents are summed up once, at the end. Linear in the number of records
+  /// and of their siblings.
+  std::vector<bool> AddNodes(const std::vector<CompareNodeInfo>& infos);
+
  protected:
   /// A new `CompareNodeInfo` for a compare node, a new `NodeInfo` for any other.
   NodeInfo* GetNodeInfo(const char* node) const override;
 
  private:
   using Children = std::vector<std::string>;
+  friend class CompareLoad;
 
   const char* GetDimCheckCtrl(const char* node);
   unsigned long long GetIndex(const char* node) const;
   bool OnNodeAdded(const CompareNodeInfo& info);
+  bool SetUpNode(const CompareNodeInfo& info);
   void GetNodeInfo(const char* node, unsigned int& colorA, unsigned int& colorB, unsigned int& colorOverlap,
                    ShowMode& showMode, NodeState& dim, DesignFlag& designFlag) const;
   void SetNodeInfo(const char* node, unsigned int colorA, unsigned int colorB, unsigned int colorOverlap,

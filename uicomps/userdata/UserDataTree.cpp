@@ -6,6 +6,7 @@
 #include <limits>
 #include <memory>
 
+#include <uicomps/base/NoRedraw.h>
 #include <uicomps/base/Text.h>
 #include <uicomps/base/WidgetOf.h>
 #include <uicomps/toolkit/ComponentCalls.h>
@@ -23,18 +24,6 @@ std::wstring Digits(Number number) {
   const std::to_chars_result written = std::to_chars(std::begin(digits), std::end(digits), number);
   return std::wstring(std::begin(digits), written.ptr);
 }
-
-/// Redrawing is off for as long as this object lives.
-class NoRedraw {
- public:
-  explicit NoRedraw(const BaseTree& tree) : m_tree(tree) { m_tree.SetRedraw(false); }
-  NoRedraw(const NoRedraw&) = delete;
-  NoRedraw& operator=(const NoRedraw&) = delete;
-  ~NoRedraw() { m_tree.SetRedraw(true); }
-
- private:
-  const BaseTree& m_tree;
-};
 
 }  // namespace
 
@@ -61,6 +50,15 @@ bool UserDataTree::AddNodeBefore(const DataNodeInfo& info, const char* before) {
   return BaseTree::AddNodeBefore(info.name.c_str(), label.c_str(), parent.c_str(), before, info.type.c_str(), L"", 1,
                                  info.expanded, 0, info.data) &&
          SetNodeState(info.name.c_str(), info.state);
+}
+
+std::vector<bool> UserDataTree::AddNodes(const std::vector<DataNodeInfo>& infos) {
+  std::vector<bool> added;
+  if (infos.empty()) return added;
+  added.reserve(infos.size());
+  const NoRedraw noRedraw(*this);
+  for (const DataNodeInfo& info : infos) added.push_back(AddNode(info));
+  return added;
 }
 
 void UserDataTree::Set(const TreeInfo& info) {

@@ -50,6 +50,9 @@ class OXECAD_UI_EXPORT UserDataTree : public Tree {
   bool AddNode(const DataNodeInfo& info);
   /// As `AddNode`, placed before a sibling; null means the end.
   bool AddNodeBefore(const DataNodeInfo& info, const char* before);
+  /// Adds records in their order, as `AddNode` would one by one, with one redraw. Tells of each whether `AddNode` would
+  /// have given true. Linear in their number.
+  std::vector<bool> AddNodes(const std::vector<DataNodeInfo>& infos);
   /// Replaces the whole tree by records, which must be `DataNodeInfo`s; null pointers and refused nodes are passed
   /// over. One redraw. Linear in the number of nodes before and after.
   void Set(const TreeInfo& info);

@@ -46,6 +46,24 @@ TEST_F(AddingUserData, PutsARecordBeforeASibling) {
     do dev:tree 2201 SetNode "nets/N3" | 31=0 | 0)"));
 }
 
+TEST_F(AddingUserData, AddsManyInTheirOrderWithOneRedraw) {
+  toolkit.When(Doing(2029, "nets/N2")).Refuse();
+  toolkit.When(Doing(2201, "nets/N3")).Refuse();
+  EXPECT_EQ(tree.AddNodes({Record("nets/N1", L"", "leaf", Word(1), Tree::Checked), Record("nets/N2", L"", "leaf"),
+                           Record("nets/N3", L"", "leaf")}),
+            (std::vector<bool>{true, false, false}));
+  EXPECT_TRUE(toolkit.Took(R"(
+    modify dev:tree | 52=0 | 0
+    do dev:tree 2029 AddNode "nets/N1" L"N1" "nets" "leaf" | 2=L"" 128=1 256=0 512=0 1024=0x1 | 0
+    do dev:tree 2201 SetNode "nets/N1" | 31=1 | 0
+    do dev:tree 2029 AddNode "nets/N2" L"N2" "nets" "leaf" | 2=L"" 128=1 256=0 512=0 1024=null | 0 => 1
+    do dev:tree 2029 AddNode "nets/N3" L"N3" "nets" "leaf" | 2=L"" 128=1 256=0 512=0 1024=null | 0
+    do dev:tree 2201 SetNode "nets/N3" | 31=0 | 0 => 1
+    modify dev:tree | 52=1 | 0)"));
+  EXPECT_TRUE(tree.AddNodes({}).empty());
+  EXPECT_TRUE(toolkit.Took(""));
+}
+
 TEST_F(AddingUserData, GivesARefusedNodeNoState) {
   toolkit.When(Doing(2029)).Refuse();
   toolkit.When(Doing(2030)).Refuse();
