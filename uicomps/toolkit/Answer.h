@@ -41,6 +41,16 @@ auto Ask(Call call, Attributes... attributes) {
   return answer;
 }
 
+/// Asks for one attribute in the same way, with the place that the caller keeps: what is lent goes back by the address
+/// that was filled.
+template <class Call, class Attribute>
+Result AskInto(typename Attribute::Value& place, Call call, Attribute attribute) {
+  place = attribute.PresetValue();
+  const Result result{std::apply(call, detail::PlaceSlots(attribute.code, place))};
+  detail::Settle(result, attribute.PresetValue(), place);
+  return result;
+}
+
 }  // namespace oxecad_ui::wire
 
 #endif

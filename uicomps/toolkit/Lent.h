@@ -17,7 +17,7 @@ class LentText {
  public:
   LentText(const Widget& tree, const char* node) {
     constexpr Attribute<Code, const Char*> attribute;
-    std::tie(m_result, m_text) = detail::AskNode(tree, Operation::GetNode, node, attribute);
+    m_result = detail::GetNodeInto(m_text, tree, node, attribute);
   }
   LentText(const LentText&) = delete;
   LentText& operator=(const LentText&) = delete;
@@ -49,7 +49,7 @@ enum class Release {
 class LentNames {
  public:
   LentNames(const Widget& tree, const char* node, Release release) : m_release(release) {
-    std::tie(m_result, m_list) = detail::AskNode(tree, Operation::GetNode, node, kNodeChildren);
+    m_result = detail::GetNodeInto(m_list, tree, node, kNodeChildren);
   }
   LentNames(const LentNames&) = delete;
   LentNames& operator=(const LentNames&) = delete;

@@ -97,6 +97,17 @@ auto AskNode(const Widget& tree, Operation operation, const char* node, Attribut
 }
 
 template <class Attribute>
+Result GetNodeInto(typename Attribute::Value& place, const Widget& tree, const char* node, Attribute attribute) {
+  return AskInto(
+      place,
+      [&](auto... slots) {
+        return ui_do_operation(tree.device, tree.name, static_cast<int>(Operation::GetNode), Slot(node), slots...,
+                               kEnd);
+      },
+      attribute);
+}
+
+template <class Attribute>
 constexpr bool kNeedsRelease =
     !std::is_arithmetic_v<typename Attribute::Value> && !std::is_same_v<typename Attribute::Value, void*>;
 

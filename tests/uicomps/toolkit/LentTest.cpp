@@ -56,6 +56,27 @@ TEST_F(Lent, NullTextGoesBackToo) {
     free 2 null | 0 => 1)"));
 }
 
+TEST_F(Lent, ItIsTheFilledPlaceThatGoesBack) {
+  std::vector<void*> filled;
+  std::vector<void*> returned;
+  const auto note = [](std::vector<void*>& places) {
+    return [&places](const uiox::Call& call) {
+      const uiox::Option& option = call.options[0];
+      places.push_back(option.code == 284 ? option.array.Pointer() : option.value.Pointer());
+    };
+  };
+  toolkit.When(Doing(2202).With(2)).Give(2, L"label").Run(note(filled));
+  toolkit.When(Doing(2202).With(284)).Give(284, {"a"}).Run(note(filled));
+  toolkit.WriteOnly([&](const uiox::Call& call) {
+    if (call.function == uiox::Function::Free) note(returned)(call);
+    return false;
+  });
+  { const LentLabel label(kTree, "n"); }
+  { const LentNames names(kTree, "n", Release::Always); }
+  EXPECT_EQ(returned.size(), 2u);
+  EXPECT_EQ(returned, filled);
+}
+
 TEST_F(Lent, HoldersAreNotCopied) {
   EXPECT_FALSE(std::is_copy_constructible_v<LentLabel>);
   EXPECT_FALSE(std::is_copy_assignable_v<LentLabel>);
