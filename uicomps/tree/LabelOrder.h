@@ -24,9 +24,13 @@ void SortByLabel(std::vector<Element>& elements, const LabelOf& labelOf) {
   };
   std::vector<Entry> entries;
   entries.reserve(elements.size());
+  bool keysHold = true;
   for (std::size_t index = 0; index < elements.size(); ++index) {
     const wchar_t* const label = labelOf(elements[index]);
-    entries.push_back({MakeOrderKey<Signed>(label), label, index});
+    entries.push_back({MakeOrderKey<Signed>(label, &keysHold), label, index});
+  }
+  if (!keysHold) {
+    for (Entry& entry : entries) entry.key = OrderKey();
   }
   std::stable_sort(entries.begin(), entries.end(), [](const Entry& a, const Entry& b) {
     return a.key == b.key ? IsNaturallyBefore<Signed>(a.label, b.label) : a.key < b.key;

@@ -70,9 +70,9 @@ constexpr bool PutNumber(OrderKeyBytes& bytes, const wchar_t*& text, bool revers
 }  // namespace detail
 
 /// The key of a label in the order of `IsNaturallyBefore<Signed>`. Holds for UTF-16 code units; a character beyond
-/// U+FFFF, which a label does not have, ends the key.
+/// U+FFFF in one element, which a label should not have, ends the key and clears `holds`: such a key tells nothing.
 template <bool Signed>
-constexpr OrderKey MakeOrderKey(const wchar_t* text) {
+constexpr OrderKey MakeOrderKey(const wchar_t* text, bool* holds = nullptr) {
   constexpr std::uint32_t kWide = 0x80u;  // stands before the two bytes of what is no ASCII character
   detail::OrderKeyBytes bytes;
   bool afterSign = false;
@@ -83,7 +83,10 @@ constexpr OrderKey MakeOrderKey(const wchar_t* text) {
       continue;
     }
     const auto unit = static_cast<std::uint32_t>(FoldCase(*text));
-    if (unit > 0xFFFFu) break;
+    if (unit > 0xFFFFu) {
+      if (holds != nullptr) *holds = false;
+      break;
+    }
     if (unit >= kWide) {
       bytes.Put(kWide);
       bytes.Put(unit >> 8);

@@ -57,6 +57,14 @@ TEST(OrderKey, EndsAtWhatIsNoCodeUnit) {
   EXPECT_EQ(MakeOrderKey<false>(beyond.c_str()), MakeOrderKey<false>(L"a"));
 }
 
+TEST(OrderKey, LeavesTheOrderToTheLabelsWhereOneIsNoUtf16) {
+  // As 16 bits the wide element is a 'C'.
+  const std::wstring wide{L'a', static_cast<wchar_t>(0x10043)};
+  std::vector<std::wstring> labels{L"ad", wide, L"ab"};
+  SortByLabel<true>(labels, [](const std::wstring& label) { return label.c_str(); });
+  EXPECT_EQ(labels, (std::vector<std::wstring>{L"ab", wide, L"ad"}));
+}
+
 rc::Gen<std::wstring> Label() {
   return rc::gen::oneOf(NaturalText(), TextOf(L"0019-aAZ_/"), TextOf(L"02147483648-"), TextOf(L"a\u00e9\u0416\uffff9"));
 }
