@@ -1,5 +1,7 @@
-#include <cstdio>
+#include <iostream>
+#include <streambuf>
 #include <string>
+#include <string_view>
 
 #include <uicomps/base/Text.h>
 #include <uicomps/tree/LabelOrder.h>
@@ -16,7 +18,15 @@ using EcadLabelOrder = Tree::NodeInfoLabelComperator<CAlphaNumericWStringEcadCom
 /// A child that cannot be read so many times in a row will never be.
 constexpr int kMostFailedReads = 10000;
 
-void SayNotSupported() { std::fputs("Not supported type..\n", stdout); }
+/// Writes where the program's standard output goes, also where the program has redirected its stream; a width, a
+/// failure or an exception mask that the program left on the stream does not count.
+void SayNotSupported() {
+  constexpr std::string_view kMessage = "Not supported type..\n";
+  std::streambuf* const output = std::cout.rdbuf();
+  if (output == nullptr) return;
+  output->sputn(kMessage.data(), static_cast<std::streamsize>(kMessage.size()));
+  output->pubsync();
+}
 
 /// The component name of the tree that filled its memory of inserted names last; empty and unset until one did. It is
 /// the name and not a pointer to it, because the tree may be gone by now.
@@ -69,6 +79,7 @@ int Tree::SearchPlace(int count, NameAt nameAt, const CComparator<NodeInfo>& com
 
 int Tree::BinarySearchNodeLocation(std::vector<std::string>& children, const CComparator<NodeInfo>* cmp,
                                    NodeInfo& node) {
+  if (children.empty()) return 0;  // without children no comparator is needed: it may be null
   const auto nameAt = [&](int index) { return children[static_cast<std::size_t>(index)].c_str(); };
   return SearchPlace(static_cast<int>(children.size()), nameAt, *cmp, node);
 }

@@ -99,8 +99,9 @@ void Tree::GetTreeInfo(TreeInfo& info, const NodeFilter& filter, bool includeRoo
   const char* rootName = wire::RootNode(WidgetOf(*this));
   if (rootName == nullptr) return;
   const std::string root = rootName;
+  std::unique_ptr<NodeInfo> record;  // one that is left out lives while its branch is walked
   if (includeRoot) {
-    std::unique_ptr<NodeInfo> record(GetNodeInfo(root.c_str()));
+    record.reset(GetNodeInfo(root.c_str()));
     if (record == nullptr) return;
     const NodeFilter::Result result = filter(*record);
     if (result != NodeFilter::Accept && result != NodeFilter::SkipNode) return;

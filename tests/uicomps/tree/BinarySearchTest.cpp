@@ -48,6 +48,12 @@ TEST_F(BinarySearch, OfNoChildrenGives0AndReadsNothing) {
   EXPECT_TRUE(tree.reads.empty());
 }
 
+TEST_F(BinarySearch, OfNoChildrenNeedsNoComparator) {
+  Names none;
+  Tree::NodeInfo node = Record("new", L"a");
+  EXPECT_EQ(tree.BinarySearchNodeLocation(none, nullptr, node), 0);
+}
+
 TEST_F(BinarySearch, GivesTheFirstChildThatIsNotBefore) {
   const Names children{"b", "d", "d", "f"};
   EXPECT_EQ(Place(children, L"a"), 0);

@@ -3,7 +3,8 @@
 #include <uicomps/tree/Comparators.h>
 #include <uicomps/tree/Tree.h>
 
-#include <ostream>
+#include <iostream>
+#include <sstream>
 #include <string>
 
 namespace oxecad_ui {
@@ -135,6 +136,18 @@ std::string MessageOf(Factory factory, const CComparator<Tree::NodeInfo>*& compa
   testing::internal::CaptureStdout();
   comparator = factory();
   return testing::internal::GetCapturedStdout();
+}
+
+TEST(ComparatorFactory, SaysItWhereTheProgramHasSentItsOutput) {
+  std::ostringstream output;
+  std::streambuf* const before = std::cout.rdbuf(output.rdbuf());
+  std::cout.width(40);
+  EXPECT_EQ(Tree::GenerateComperatorByType(static_cast<Tree::NodeComparableType>(1)), nullptr);
+  std::cout.rdbuf(nullptr);
+  EXPECT_EQ(Tree::GenerateEcadComperatorByType(static_cast<Tree::NodeComparableType>(2)), nullptr);
+  std::cout.rdbuf(before);
+  std::cout.width(0);
+  EXPECT_EQ(output.str(), "Not supported type..\n");
 }
 
 TEST(ComparatorFactory, GivesAscendingComparatorsOfRecords) {
