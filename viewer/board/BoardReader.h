@@ -17,7 +17,7 @@ struct ReaderLimits {
   std::uint32_t stringBytes = 64 * 1024;             ///< of one name, number or quoted text, escapes resolved
   std::uint32_t items = 10'000'000;                  ///< pads, tracks, arcs, vias, zones and drawings together
   std::uint64_t projectBytes = 16ull * 1024 * 1024;  ///< of the project file beside the board
-  std::uint64_t patternSteps = 50'000'000;          ///< character comparisons spent on the net class patterns
+  std::uint64_t patternSteps = 50'000'000;           ///< character comparisons spent on the net class patterns
 };
 
 /// Reads a board file of format version 5 to 9, and its net classes from the project file of the same name

@@ -65,8 +65,9 @@ void ItemContext::ReadLayerLine(SexprCursor& from) {
   layer.name = from.Atom("the name of a layer");
   if (layer.name.empty()) from.Fail(offset, "expected the name of a layer, found an empty one");
   layer.type = from.Atom("the type of a layer");
-  while (const auto word = from.TryAtom()) {
-    if (*word != "hide") layer.userName = *word;
+  bool quoted = false;
+  while (const auto word = from.TryAtom(&quoted)) {
+    if (quoted || *word != "hide") layer.userName = *word;
   }
   const std::string name = layer.name;
   switch (layers_.Declare(std::move(layer))) {

@@ -7,6 +7,8 @@ namespace oxviewer {
 namespace {
 
 constexpr std::string_view kCopperSuffix = ".Cu";
+constexpr std::string_view kFrontCopper = "F.Cu";
+constexpr std::string_view kBackCopper = "B.Cu";
 
 bool EndsWith(std::string_view text, std::string_view end) {
   return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
@@ -49,16 +51,18 @@ LayerId LayerTable::Add(Layer layer) {
 }
 
 // Boards up to version 5 write the user's own names of the copper layers into the table, so that the outer ones are
-// also known by being the first and the last.
-LayerId LayerTable::OuterCopper(std::string_view name, bool front) {
-  const auto found = byName_.find(name);
-  if (found != byName_.end()) return found->second;
+// also known by being the first and the last. A single one is the front.
+LayerId LayerTable::OuterCopper(bool front) {
+  const std::string_view name = front ? kFrontCopper : kBackCopper;
+  const std::string_view opposite = front ? kBackCopper : kFrontCopper;
   LayerId outer = kNoLayer;
   for (std::size_t i = 0; i < layers_.size(); ++i) {
-    if (!layers_[i].declared || !layers_[i].copper) continue;
-    outer = static_cast<LayerId>(i);
-    if (front) break;
+    const Layer& layer = layers_[i];
+    if (!layer.declared || !layer.copper || layer.name == opposite) continue;
+    if (layer.name == name) return static_cast<LayerId>(i);
+    if (outer == kNoLayer || !front) outer = static_cast<LayerId>(i);
   }
+  if (!front && outer != kNoLayer && outer == FrontCopper()) outer = kNoLayer;
   return outer == kNoLayer ? Find(name) : outer;
 }
 

@@ -29,15 +29,15 @@ class LayerTable {
   bool Expand(std::string_view name, LayerSet& layers);
 
   /// The outer copper layers, whatever their names; they exist as undeclared ones if the board has none.
-  LayerId FrontCopper() { return OuterCopper("F.Cu", true); }
-  LayerId BackCopper() { return OuterCopper("B.Cu", false); }
+  LayerId FrontCopper() { return OuterCopper(true); }
+  LayerId BackCopper() { return OuterCopper(false); }
 
   bool IsCopper(LayerId id) const { return id >= 0 && layers_[static_cast<std::size_t>(id)].copper; }
   std::vector<Layer> Take() { return std::move(layers_); }
 
  private:
   LayerId Add(Layer layer);
-  LayerId OuterCopper(std::string_view name, bool front);
+  LayerId OuterCopper(bool front);
   bool Insert(std::string_view name, LayerSet& layers);
   bool ExpandKind(std::string_view suffix, LayerSet& layers);
 

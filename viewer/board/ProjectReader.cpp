@@ -227,6 +227,7 @@ bool ClassCollector::key(std::string& name) {
 bool ClassCollector::string(std::string& value) {
   if (TooLong(value)) return false;
   if (!WantsString()) return Scalar("a string");
+  if (value.find('\0') != std::string::npos) return Fail("expected text, found a NUL");
   switch (places_.back()) {
     case Place::Class:
       className_ = std::move(value);

@@ -1,5 +1,6 @@
 #include <viewer/board/SexprCursor.h>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <utility>
@@ -11,6 +12,20 @@ namespace {
 constexpr double kNmPerMm = 1e6;
 constexpr double kMaxMm = 2147.483647;
 constexpr double kMaxDegrees = 1e9;
+
+// Of a decimal number whose magnitude no double can hold: whether it is too small for that rather than too large.
+bool IsTiny(std::string_view number) {
+  const std::size_t e = std::min(number.find_first_of("eE"), number.size());
+  const std::string_view digits = number.substr(0, e);
+  const std::size_t leading = digits.find_first_of("123456789");
+  const std::size_t point = std::min(digits.find('.'), digits.size());
+  long long exponent = 0;
+  std::string_view power = number.substr(std::min(e + 1, number.size()));
+  if (!power.empty() && power[0] == '+') power.remove_prefix(1);
+  const auto status = std::from_chars(power.data(), power.data() + power.size(), exponent).ec;
+  if (status == std::errc::result_out_of_range) return power[0] == '-';
+  return exponent < static_cast<long long>(leading) - static_cast<long long>(point);
+}
 
 }  // namespace
 
@@ -79,6 +94,7 @@ double SexprCursor::ReadNumber() {
   double value = 0;
   const auto [end, status] = std::from_chars(text.data(), text.data() + text.size(), value);
   const bool whole = token.kind == Token::Kind::Atom && !token.quoted && end == text.data() + text.size();
+  if (whole && status == std::errc::result_out_of_range && IsTiny(text)) return 0;
   if (!whole || status != std::errc() || !std::isfinite(value)) {
     Fail(token.offset, "expected a number, found " + Described(token));
   }

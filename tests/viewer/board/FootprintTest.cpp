@@ -66,6 +66,20 @@ TEST(Component, OnTheLastCopperLayerIsOnTheBackWhateverItsName) {
   EXPECT_EQ(board.components.at(1).side, Side::Front);
 }
 
+TEST(Component, OnTheOnlyCopperLayerIsInFrontUnlessThatIsTheBack) {
+  const auto sides = [](const std::string& layer) {
+    const Board board = Read(BoardText("(layers (0 " + layer + " signal) (32 B.Adhes user)) (module A (layer " + layer +
+                                       ")) (module B (layer B.Cu)) (via (at 0 0)) (module C (layer F.Cu))"));
+    std::string line;
+    for (const auto& component : board.components) line += component.side == Side::Front ? 'F' : 'B';
+    return line + ' ' + LayerNameOf(board, board.vias.at(0).firstLayer) + ' ' +
+           LayerNameOf(board, board.vias.at(0).lastLayer);
+  };
+  EXPECT_EQ(sides("F.Cu"), "FBF F.Cu B.Cu");
+  EXPECT_EQ(sides("B.Cu"), "BBF F.Cu B.Cu");
+  EXPECT_EQ(sides("Copper"), "FBF Copper B.Cu");
+}
+
 // Seen on the screen, 90 degrees turn what is right of the origin to above it: y runs down.
 TEST(Pad, LiesOnTheBoardWhereTheTurnedComponentPutsIt) {
   const Board board = Read(BoardText(R"(

@@ -37,6 +37,7 @@ TEST(Layers, OfVersion9HaveOtherNumbersAndTheSameNames) {
 TEST(Layers, HiddenOnesAreNoDifferent) {
   EXPECT_EQ(Table(Read(BoardText("(layers (0 F.Cu signal hide) (31 B.Cu mixed) (1 In1.Cu jumper \"x\" hide))"))),
             "F.Cu||signal|copper\nB.Cu||mixed|copper\nIn1.Cu|x|jumper|copper\n");
+  EXPECT_EQ(Table(Read(BoardText("(layers (0 F.Cu signal \"hide\"))"))), "F.Cu|hide|signal|copper\n");
 }
 
 TEST(Layers, NamedByTheUserInVersion5AreCopperByTheirType) {

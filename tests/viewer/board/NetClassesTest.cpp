@@ -110,6 +110,7 @@ TEST(NetClasses, OfTheWrongKindAreRefused) {
   EXPECT_EQ(message("\"netclass_assignments\":{\"GND\":1}"), "expected the name of a net class, found a number");
   EXPECT_EQ(message("\"netclass_assignments\":{\"GND\":{}}"), "expected the name of a net class, found an object");
   EXPECT_EQ(message("\"netclass_assignments\":{\"GND\":[[]]}"), "expected a string, found an array");
+  EXPECT_EQ(message(R"("classes":[{"name":"A\u0000B"}])"), "expected text, found a NUL");
   EXPECT_EQ(message("\"netclass_patterns\":{}"), "expected an array, found an object");
   EXPECT_EQ(message("\"netclass_patterns\":[{\"pattern\":-1}]"), "expected a string, found a number");
 }

@@ -48,6 +48,20 @@ TEST(ReadLength, RoundsToWholeNanometres) {
   EXPECT_EQ(LengthOf("147.360912"), 147'360'912);
 }
 
+TEST(ReadLength, TakesWhatIsTooSmallForADoubleAsNothing) {
+  const std::string zeros(400, '0');
+  for (const std::string& spelling :
+       {std::string("1e-400"), std::string("-1E-400"), "0." + zeros + "1", "-." + zeros + "1", "0." + zeros + "1e5",
+        "1" + zeros + "e-900", std::string("1e-99999999999999999999"), std::string("+12.5e-0400")}) {
+    EXPECT_EQ(LengthOf(spelling), 0) << spelling;
+  }
+  EXPECT_EQ(LengthOf("0." + zeros + "1e402"), 10'000'000);
+  for (const std::string& spelling :
+       {std::string("1e400"), "-1" + zeros, "0." + zeros + "1e900", std::string("1e99999999999999999999")}) {
+    EXPECT_EQ(FailureOf([&] { LengthOf(spelling); }).substr(0, 24), "expected a number, found") << spelling;
+  }
+}
+
 TEST(ReadLength, AcceptsTheOutermostValuesAndNothingBeyond) {
   EXPECT_EQ(LengthOf("2147.483647"), 2147483647);
   EXPECT_EQ(LengthOf("-2147.483647"), -2147483647);
