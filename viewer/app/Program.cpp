@@ -1,3 +1,4 @@
+#include <viewer/app/OutputFile.h>
 #include <viewer/app/Program.h>
 #include <viewer/board/BoardReader.h>
 #include <viewer/diff/DiffReport.h>
@@ -29,7 +30,7 @@ int Compared(const LoadedBoards& boards) { return boards.diff && !boards.diff->E
 
 int WriteReportFile(const Options& options, const LoadedBoards& boards) {
   const std::string text = ReportText(*boards.diff, boards.a->name, boards.b->name);
-  if (const auto error = WriteReport(*options.report, text)) {
+  if (const auto error = WriteFile(*options.report, text)) {
     PrintError(error->ToLine());
     return kFailure;
   }

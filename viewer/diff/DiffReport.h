@@ -1,10 +1,8 @@
 #ifndef OXECAD_VIEWER_DIFF_DIFFREPORT_H
 #define OXECAD_VIEWER_DIFF_DIFFREPORT_H
 
-#include <viewer/board/Result.h>
 #include <viewer/diff/BoardDiff.h>
 
-#include <optional>
 #include <string>
 
 namespace oxviewer {
@@ -18,10 +16,6 @@ namespace oxviewer {
 ///
 /// Bytes of names that are no UTF-8 become U+FFFD.
 std::string ReportText(const BoardDiff& diff, const std::string& nameA, const std::string& nameB);
-
-/// Writes a text to a file: the file holds either all of it or what it held before. A device or pipe is written to as
-/// it is. Returns the error when that fails.
-std::optional<ReadError> WriteReport(const std::string& path, const std::string& text);
 
 }  // namespace oxviewer
 

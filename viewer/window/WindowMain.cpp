@@ -1,3 +1,4 @@
+#include <viewer/app/OutputFile.h>
 #include <viewer/window/BoardView.h>
 #include <viewer/window/Languages.h>
 #include <viewer/window/MainWindow.h>
@@ -5,10 +6,10 @@
 #include <viewer/window/WindowMain.h>
 
 #include <QApplication>
+#include <QBuffer>
 #include <QFile>
 #include <QImage>
 #include <QPainter>
-#include <QSaveFile>
 
 #include <unistd.h>
 #include <cstdlib>
@@ -71,11 +72,17 @@ QImage Picture(const LoadedBoards& boards, const PictureSize& size, int& argc, c
   return picture;
 }
 
-int WritePicture(const QString& path, const QImage& picture) {
-  QSaveFile file(path);
-  file.setDirectWriteFallback(true);
-  if (file.open(QIODevice::WriteOnly) && picture.save(&file, "PNG") && file.commit()) return kSuccess;
-  PrintError(path.toStdString() + ": expected a file that can be written: " + file.errorString().toStdString());
+int WritePicture(const std::string& path, const QImage& picture) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  if (!picture.save(&buffer, "PNG")) {
+    PrintError("the picture cannot be made");
+    return kFailure;
+  }
+  const auto error = WriteFile(path, bytes.toStdString());
+  if (!error) return kSuccess;
+  PrintError(error->ToLine());
   return kFailure;
 }
 
@@ -89,7 +96,7 @@ int RunWindow(const Options& options, const LoadedBoards& boards) {
   if (options.screenshot) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QImage picture = Picture(boards, options.size, argc, argv);
-    return WritePicture(QFile::decodeName(options.screenshot->c_str()), picture);
+    return WritePicture(*options.screenshot, picture);
   }
   if (!HasDisplay()) {
     PrintError("no window can be opened: there is no display (--screenshot and --dump need none)");

@@ -1,6 +1,9 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <tests/viewer/app/ChildProcess.h>
 #include <tests/viewer/board/Texts.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -115,6 +118,20 @@ TEST_F(ProgramTest, PictureIsTheSameEachTime) {
 TEST_F(ProgramTest, PictureThatCannotBeWrittenIsAnError) {
   const std::string picture = folder_.PathOf("none/p.png");
   ExpectRefusal(RunViewer({board_, "--screenshot", picture}), "oxviewer: " + picture + ": ");
+}
+
+TEST_F(ProgramTest, PictureGoesIntoAPipe) {
+  const std::string pipe = folder_.PathOf("pipe");
+  ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+  const int reader = ::open(pipe.c_str(), O_RDONLY | O_NONBLOCK);
+  ASSERT_GE(reader, 0);
+  const Ended ended = RunViewer({board_, "--screenshot", pipe, "--size", "320x240"});
+  EXPECT_EQ(ended.status, 0) << ended.err;
+  EXPECT_TRUE(fs::is_fifo(pipe));
+  std::string begin(8, ' ');
+  EXPECT_EQ(::read(reader, begin.data(), begin.size()), 8);
+  EXPECT_EQ(begin, "\x89PNG\r\n\x1A\n");
+  ::close(reader);
 }
 
 TEST_F(ProgramTest, WrongArgumentsAreOneLine) {

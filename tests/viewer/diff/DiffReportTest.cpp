@@ -1,21 +1,11 @@
 #include <gtest/gtest.h>
-#include <sys/stat.h>
-#include <tests/viewer/board/Texts.h>
 #include <tests/viewer/diff/DiffTexts.h>
 #include <viewer/diff/DiffReport.h>
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <nlohmann/json.hpp>
 
 namespace oxviewer::testing {
 namespace {
-
-std::string ContentOf(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
 
 // Without the blanks and line ends between the values; the texts here hold none.
 std::string Compact(const std::string& json) {
@@ -61,48 +51,6 @@ TEST(DiffReport, IsUtf8WhateverTheNamesHold) {
   EXPECT_EQ(json["nets"]["onlyA"][1], "\xEF\xBF\xBD");
   EXPECT_NE(report.find("\xC3\xA4"), std::string::npos);
   EXPECT_EQ(report.back(), '\n');
-}
-
-TEST(ReportFile, IsWrittenAndReplaced) {
-  const TemporaryFolder folder;
-  const std::string path = folder.PathOf("report.json");
-  EXPECT_FALSE(WriteReport(path, "first, and longer\n"));
-  EXPECT_EQ(ContentOf(path), "first, and longer\n");
-  EXPECT_FALSE(WriteReport(path, "second\n"));
-  EXPECT_EQ(ContentOf(path), "second\n");
-  const auto begin = std::filesystem::directory_iterator(folder.PathOf(""));
-  EXPECT_EQ(std::distance(begin, std::filesystem::directory_iterator()), 1);
-}
-
-TEST(ReportFile, KeepsTheRightsAndTheLinkOfTheOldOne) {
-  const TemporaryFolder folder;
-  const std::string path = folder.Write("report.json", "old");
-  ASSERT_EQ(::chmod(path.c_str(), 0640), 0);
-  std::filesystem::create_symlink("report.json", folder.PathOf("link"));
-  EXPECT_FALSE(WriteReport(folder.PathOf("link"), "new"));
-  EXPECT_TRUE(std::filesystem::is_symlink(folder.PathOf("link")));
-  EXPECT_EQ(ContentOf(path), "new");
-  struct stat status {};
-  ASSERT_EQ(::stat(path.c_str(), &status), 0);
-  EXPECT_EQ(status.st_mode & 0777, 0640u);
-}
-
-TEST(ReportFile, ThatCannotBeWrittenIsAnError) {
-  const TemporaryFolder folder;
-  const auto missing = WriteReport(folder.PathOf("no/report.json"), "x");
-  ASSERT_TRUE(missing);
-  EXPECT_EQ(missing->ToLine(), folder.PathOf("no/report.json") + ": expected a writable file: there is no such folder");
-  const auto directory = WriteReport(folder.PathOf(""), "x");
-  ASSERT_TRUE(directory);
-  EXPECT_EQ(directory->ToLine(), folder.PathOf("") + ": expected a writable file: it is a directory");
-  const auto full = WriteReport("/dev/full", "x");
-  ASSERT_TRUE(full);
-  EXPECT_EQ(full->ToLine(), "/dev/full: expected a writable file: no space is left");
-}
-
-TEST(ReportFile, MayBeADevice) {
-  EXPECT_FALSE(WriteReport("/dev/null", "x"));
-  EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
 }
 
 }  // namespace

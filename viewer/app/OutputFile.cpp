@@ -1,4 +1,4 @@
-#include <viewer/diff/DiffReport.h>
+#include <viewer/app/OutputFile.h>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -65,14 +65,18 @@ std::string FollowedLinks(const std::string& path) {
   return real ? std::string(real.get()) : path;
 }
 
-int WriteInPlace(const std::string& path, const std::string& text) {
-  const int fd = ::open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY);
+int WriteInPlace(const std::string& path, const std::string& text, int flags) {
+  const int fd = ::open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY | flags);
   return fd < 0 ? errno : WriteAndClose(fd, text, false);
 }
 
-int WriteBeside(const std::string& path, const std::string& text, mode_t mode) {
-  const std::string besides = path + ".new-" + std::to_string(::getpid());
+// The new content under a name of its own, which then takes the place of the old one. Where the folder takes no further
+// file there is only the old one to write into.
+int WriteBeside(const std::string& path, const std::string& text, bool exists, mode_t mode) {
+  const std::string folder = path.substr(0, path.rfind('/') + 1);  // npos + 1 is 0
+  const std::string besides = folder + ".oxviewer-" + std::to_string(::getpid());
   const int fd = ::open(besides.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+  if (fd < 0 && exists && (errno == EACCES || errno == EPERM)) return WriteInPlace(path, text, O_TRUNC);
   if (fd < 0) return errno;
   int error = WriteAndClose(fd, text, true);
   if (error == 0 && std::rename(besides.c_str(), path.c_str()) != 0) error = errno;
@@ -82,18 +86,18 @@ int WriteBeside(const std::string& path, const std::string& text, mode_t mode) {
 
 }  // namespace
 
-std::optional<ReadError> WriteReport(const std::string& path, const std::string& text) {
+std::optional<ReadError> WriteFile(const std::string& path, const std::string& text) {
   struct stat status {};
   const bool exists = ::stat(path.c_str(), &status) == 0;
   int error = 0;
   if (exists && S_ISDIR(status.st_mode)) {
     error = EISDIR;
   } else if (exists && !S_ISREG(status.st_mode)) {
-    error = WriteInPlace(path, text);
+    error = WriteInPlace(path, text, 0);
   } else if (exists && ::access(path.c_str(), W_OK) != 0) {
     error = errno;
   } else {
-    error = WriteBeside(FollowedLinks(path), text, exists ? status.st_mode & 0777 : mode_t{0666});
+    error = WriteBeside(FollowedLinks(path), text, exists, exists ? status.st_mode & 0777 : mode_t{0666});
   }
   if (error == 0) return std::nullopt;
   return Unwritable(path, error);
