@@ -56,15 +56,16 @@ void ColorTree::ChangeNodeColor(const char* node, unsigned int color) {
 }
 
 void ColorTree::ChangeNodeColor(const char* node) {
-  const std::string name = TextOrEmpty(node);  // the dialog runs events, and the toolkit's name may go meanwhile
-  if (IsColorlessNode(WidgetOf(*this), name.c_str())) return;
-  const unsigned int present = GetNodeColor(name.c_str());
+  const std::string copy = TextOrEmpty(node);  // the dialog runs events, and the toolkit's name may go meanwhile
+  const char* const name = node != nullptr ? copy.c_str() : nullptr;
+  if (IsColorlessNode(WidgetOf(*this), name)) return;
+  const unsigned int present = GetNodeColor(name);
   oxcore::ColorPickerDlg dialog(m_mainframe, std::string());
   const unsigned int chosen = dialog.ShowDialog(present);
   if (chosen == kNoColor) return;
-  ParentColorChanged(name.c_str(), chosen);
-  ChildColorChanged(GetParent(name.c_str()).c_str());
-  NotifyNode(name, ValueChanged);
+  ParentColorChanged(name, chosen);
+  ChildColorChanged(GetParent(name).c_str());
+  NotifyNode(copy, ValueChanged);
 }
 
 void ColorTree::ChangeNodeColor(const std::vector<std::string>& nodes) {

@@ -82,6 +82,21 @@ TEST_F(ColorPick, SparesAColorlessNode) {
   EXPECT_EQ(spy.TakeReasons(), Reasons{});
 }
 
+TEST_F(ColorPick, HandsANullNodeOnAsItIs) {
+  ListenToChanges();
+  oxcore::QueueColorAnswer(7);
+  tree.OnActivate(nullptr);
+  EXPECT_TRUE(toolkit.Took(R"(
+    do dev:tree 2202 GetNode null | 282->null | 0
+    free 282 null | 0
+    do dev:tree 2203 InquireNode null | 260->0xffffffff | 0
+    do dev:tree 2202 GetNode null | 283->null | 0
+    free 283 null | 0
+  )"));
+  EXPECT_EQ(spy.TakeReasons(), Reasons{1});
+  EXPECT_EQ(changed, Names{""});
+}
+
 TEST_F(ColorPick, WorksWithoutListener) {
   Node("n", "root", {}, 5);
   oxcore::QueueColorAnswer(7);
