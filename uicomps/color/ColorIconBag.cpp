@@ -76,7 +76,7 @@ const char* ColorIconBag::GetColorIcon(const char* name, unsigned int color) {
   KnownIcons& known = IconsOf(name);
   if (const auto found = known.icons.find(color); found != known.icons.end()) return found->second;
   std::string icon = GetIconName(name, color);
-  // Two base images can lead to one icon name; the icon that is there serves both.
+  // The icon is there already when only remembering it by its colour had failed.
   auto owned = m_names.find(icon);
   if (owned == m_names.end()) {
     if (!MakeIcon(name, icon.c_str(), color)) return nullptr;
