@@ -1,9 +1,8 @@
 /// \file
-/// Counts the toolkit's calls beside the time.
+/// Counts the toolkit's calls.
 #ifndef OXECAD_BENCH_CALLCOUNTER_H
 #define OXECAD_BENCH_CALLCOUNTER_H
 
-#include <benchmark/benchmark.h>
 #include <uiox/Backend.h>
 
 #include <cstdint>
@@ -22,17 +21,6 @@ class CallCounter : public uiox::Backend {
  private:
   std::uint64_t count_ = 0;
 };
-
-/// Runs `work` once, untimed, and reports how many calls it made.
-template <class Work>
-void ReportCalls(benchmark::State& state, const Work& work) {
-  CallCounter counter;
-  {
-    const uiox::BackendScope scope(counter);
-    work();
-  }
-  state.counters["calls"] = static_cast<double>(counter.Count());
-}
 
 }  // namespace oxecad_bench
 

@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "bench/CallCounter.h"
+#include "bench/ReportCalls.h"
 #include "uicomps/color/ColorIconBag.h"
 #include "uicomps/color/ColorTree.h"
 
