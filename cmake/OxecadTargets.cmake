@@ -46,12 +46,19 @@ endfunction()
 # oxecad_test(NAME SOURCES FILE... LIBRARIES TARGET... [PREFIX TEXT] [UNWATCHED]): one test program; each of its cases is
 # a test of its own and runs in a process of its own. Where components may meet the stand-in toolkit, strict mode
 # watches, but for UNWATCHED: a program that plays the toolkit's own part.
+# PRIVATE_MEMBERS: its code may look at what is private.
 function(oxecad_test name)
-  cmake_parse_arguments(arg "UNWATCHED" "PREFIX" "SOURCES;LIBRARIES" ${ARGN})
+  cmake_parse_arguments(arg "UNWATCHED;PRIVATE_MEMBERS" "PREFIX" "SOURCES;LIBRARIES" ${ARGN})
   add_executable(${name} ${arg_SOURCES} $<TARGET_OBJECTS:test_locale>)
   oxecad_own(${name})
   # The tests' own code is compiled much more often than it is run.
   target_compile_options(${name} PRIVATE -O0)
+  if(arg_PRIVATE_MEMBERS)
+    target_compile_options(${name} PRIVATE -fno-access-control)
+    target_precompile_headers(${name} REUSE_FROM private_test_headers)
+  else()
+    target_precompile_headers(${name} REUSE_FROM test_headers)
+  endif()
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
   target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} GTest::gtest_main)
   if(NOT arg_UNWATCHED AND arg_LIBRARIES MATCHES "test_support|oxecad::ui|viewer_(trees|app)")

@@ -78,6 +78,10 @@ void Adding(Stage& stage) {
       return info ? info->type : std::string();
     });
   }
+  const std::vector<ColorTree::ColorNodeInfo> many = {
+      Colored("bus", 5),    Colored("bus/D0", 5),     Colored("bus/D1", 6),   Colored("bus/notes", 0, "colorless"),
+      Colored("bus/D1", 6), Colored("nowhere/D2", 7), Colored("power/D3", 5), Colored("bus/D4", 0xFFFFFFFF)};
+  stage.StepOfAnyResult("add many", [&] { return tree->AddNodes(many); });
   stage.Step("colourless", [&] { return ColorTree::IsColorless("a colorless type"); });
 }
 

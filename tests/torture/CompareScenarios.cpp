@@ -68,6 +68,11 @@ void Adding(Stage& stage) {
   for (const CompareColorTree::CompareNodeInfo& record : records) {
     stage.Step("add", [&] { return tree->AddNode(record); });
   }
+  const std::vector<CompareColorTree::CompareNodeInfo> many = {
+      Compared("bus", 1, 2),    Compared("bus/D0", 1, 3),     Compared("bus/D1", 3, 0, CompareColorTree::DesignA),
+      Compared("bus/D1", 1, 1), Compared("nowhere/D2", 1, 1), Compared("heading/D3", 8, 8),
+      Compared("net/D4", 8, 8)};
+  stage.StepOfAnyResult("add many", [&] { return tree->AddNodes(many); });
   const CompareColorTree::CompareNodeInfo before = Compared("net/first", 1, 2);
   stage.Step("add before", [&] { return tree->AddNodeBefore(before, "net/pads"); });
   for (const char* node : {"net", "heading", "nowhere"}) {

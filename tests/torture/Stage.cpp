@@ -40,6 +40,12 @@ std::string ResultText(const std::vector<std::string>& value) {
   return text + " ]";
 }
 
+std::string ResultText(const std::vector<bool>& value) {
+  std::string text;
+  for (const bool each : value) text += each ? '1' : '0';
+  return text;
+}
+
 Stage::Stage(const Injection& injection, std::vector<StepRecord>& records) : injection_(injection), records_(records) {
   toolkit_.Pause();
   suite.Reset();

@@ -41,6 +41,7 @@ std::string ResultText(const std::wstring& value);
 std::string ResultText(const char* value);
 std::string ResultText(const void* value);
 std::string ResultText(const std::vector<std::string>& value);
+std::string ResultText(const std::vector<bool>& value);
 
 /// What an operation gives when the toolkit refuses everything.
 template <class T>

@@ -43,6 +43,10 @@ void Adding(Stage& stage) {
   for (const UserDataTree::DataNodeInfo& record : records) {
     stage.Step("add", [&] { return tree->AddNode(record); });
   }
+  const std::vector<UserDataTree::DataNodeInfo> many = {
+      Record("L", "branch", nullptr), Record("L/1", "leaf", &g_objects[0]), Record("L/1", "leaf", nullptr),
+      Record("nowhere/1", "leaf", nullptr)};
+  stage.StepOfAnyResult("add many", [&] { return tree->AddNodes(many); });
   const UserDataTree::DataNodeInfo before = Record("R/0", "leaf", &g_objects[3]);
   stage.Step("add before", [&] { return tree->AddNodeBefore(before, "R/1"); });
   for (const char* leaf : kLeaves) {

@@ -136,40 +136,46 @@ CompareTree::~CompareTree() { CompareColorTree::Clear(); }
 
 void CompareTree::Fill(oxcore::Mainframe* mainframe) {
   Init(mainframe);
-  SetRedraw(false);
-  AddHeading(kRoot, Utf8ToWideStr(FileName(a_.name) + ' ' + TreeText("and") + ' ' + FileName(b_.name)), true);
-  AddHeading(kLayers, WideTreeText("Layers"), !diff_.layers.Equal());
-  AddHeading(kComponents, WideTreeText("Components"), !diff_.components.Equal());
-  AddHeading(kNets, WideTreeText("Nets"), !diff_.nets.Equal());
-  AddSection(Kind::Layer, kLayers, diff_.layers);
-  AddSection(Kind::Component, kComponents, diff_.components);
-  AddSection(Kind::Net, kNets, diff_.nets);
-  for (const char* heading : {kLayers, kComponents, kNets, kRoot}) ChildInfoChanged(heading);
-  SetRedraw(true);
+  std::vector<CompareNodeInfo> nodes;
+  nodes.push_back(
+      Heading(kRoot, Utf8ToWideStr(FileName(a_.name) + ' ' + TreeText("and") + ' ' + FileName(b_.name)), true));
+  for (const Section& section : Sections()) {
+    nodes.push_back(Heading(section.heading, WideTreeText(section.label), !section.diff.Equal()));
+  }
+  for (const Section& section : Sections()) AddSubjects(section, nodes);
+  AddNodes(nodes);
+  ShowDifferences();
 }
 
-void CompareTree::AddHeading(const char* node, const std::wstring& label, bool expanded) {
+std::vector<CompareTree::Section> CompareTree::Sections() const {
+  return {{Kind::Layer, kLayers, "Layers", diff_.layers},
+          {Kind::Component, kComponents, "Components", diff_.components},
+          {Kind::Net, kNets, "Nets", diff_.nets}};
+}
+
+CompareTree::CompareNodeInfo CompareTree::Heading(const char* node, const std::wstring& label, bool expanded) {
   CompareNodeInfo info;
   info.name = node;
   info.label = label;
   info.type = s_compareType;
   info.expanded = expanded;
-  AddNode(info);
+  return info;
 }
 
-void CompareTree::AddSection(Kind kind, const char* heading, const SectionDiff& section) {
-  std::vector<Entry> entries = EntriesOf(kind, section);
-  if (kind == Kind::Net) NameRenamed(diff_.renamed, entries);
-  PutInOrder(kind, entries);
-  for (Entry& entry : entries) AddSubject(heading, std::move(entry.subject), entry.difference);
-  const std::wstring summary = Utf8ToWideStr(SummaryOf(section));
-  wire::SetCell(oxecad_ui::WidgetOf(*this), {heading, kDifferenceColumn}, wire::kCellLabel(summary.c_str()));
+void CompareTree::AddSubjects(const Section& section, std::vector<CompareNodeInfo>& nodes) {
+  std::vector<Entry> entries = EntriesOf(section.kind, section.diff);
+  if (section.kind == Kind::Net) NameRenamed(diff_.renamed, entries);
+  PutInOrder(section.kind, entries);
+  for (Entry& entry : entries) {
+    entry.subject.node = UniqueNode(section, entry.subject.name);
+    nodes.push_back(NodeOf(entry.subject));
+    positions_.emplace(entry.subject.node, subjects_.size());
+    subjects_.push_back(std::move(entry.subject));
+    differences_.push_back(std::move(entry.difference));
+  }
 }
 
-// Every node that is added is summed up with all its siblings at once. So it comes below the root, which has few
-// children, and is moved to its heading, which is summed up when all are there.
-void CompareTree::AddSubject(const char* heading, CompareSubject subject, const std::string& difference) {
-  subject.node = UniqueNode(subject.kind, subject.name);
+CompareTree::CompareNodeInfo CompareTree::NodeOf(const CompareSubject& subject) const {
   CompareNodeInfo info;
   info.name = subject.node;
   info.type = s_compareType;
@@ -183,19 +189,27 @@ void CompareTree::AddSubject(const char* heading, CompareSubject subject, const 
   if (subject.kind == Kind::Layer) label = LayerLabel(board.layers[position]);
   if (subject.kind == Kind::Component) label = ComponentLabel(board.components[position]);
   info.label = Utf8ToWideStr(label);
-  if (!AddNode(info)) return;
-  const std::wstring words = Utf8ToWideStr(difference);
-  wire::SetCell(oxecad_ui::WidgetOf(*this), {subject.node.c_str(), kDifferenceColumn}, wire::kCellLabel(words.c_str()));
-  MoveNodeBefore(subject.node.c_str(), heading, nullptr);
-  positions_.emplace(subject.node, subjects_.size());
-  subjects_.push_back(std::move(subject));
-  differences_.push_back(difference);
+  return info;
 }
 
-std::string CompareTree::UniqueNode(Kind kind, const std::string& name) {
-  std::string node = NodeName(NodeKind(kind), name);
+// A record is placed by its name: below the node in front of the last '/'.
+std::string CompareTree::UniqueNode(const Section& section, const std::string& name) {
+  std::string node = std::string(section.heading) + '/' + NodeName(NodeKind(section.kind), name);
   const int number = ++used_[node];
   return number == 1 ? node : node + ':' + std::to_string(number);
+}
+
+void CompareTree::ShowDifferences() {
+  const auto show = [this](const char* node, const std::string& text) {
+    const std::wstring words = Utf8ToWideStr(text);
+    wire::SetCell(oxecad_ui::WidgetOf(*this), {node, kDifferenceColumn}, wire::kCellLabel(words.c_str()));
+  };
+  SetRedraw(false);
+  for (const Section& section : Sections()) show(section.heading, SummaryOf(section.diff));
+  for (std::size_t subject = 0; subject < subjects_.size(); ++subject) {
+    show(subjects_[subject].node.c_str(), differences_[subject]);
+  }
+  SetRedraw(true);
 }
 
 CompareLook CompareTree::LookOf(std::size_t subject) const {

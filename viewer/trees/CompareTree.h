@@ -46,12 +46,12 @@ struct CompareSubject {
 ///
 ///     A and B                        root
 ///       Layers                       layers
-///         F.Cu                       layer:F.Cu
+///         F.Cu                       layers/layer:F.Cu
 ///       Components                   components
-///         R1      moved, value       component:R1
-///         R2      only in A          component:R2
+///         R1      moved, value       components/component:R1
+///         R2      only in A          components/component:R2
 ///       Nets                         nets
-///         GND     tracks, vias       net:GND
+///         GND     tracks, vias       nets/net:GND
 class CompareTree : public oxecad_ui::CompareColorTree {
  public:
   static constexpr const char* kName = "compare";
@@ -102,11 +102,20 @@ class CompareTree : public oxecad_ui::CompareColorTree {
  private:
   static int DirtyCB(void* self, void* reason);
 
-  void AddHeading(const char* node, const std::wstring& label, bool expanded);
-  void AddSection(CompareSubject::Kind kind, const char* heading, const SectionDiff& section);
-  void AddSubject(const char* heading, CompareSubject subject, const std::string& difference);
-  std::string UniqueNode(CompareSubject::Kind kind, const std::string& name);
-  void SumUp(const char* heading);
+  /// One of the three parts of a comparison, each below a heading of its own.
+  struct Section {
+    CompareSubject::Kind kind;
+    const char* heading;
+    const char* label;
+    const SectionDiff& diff;
+  };
+
+  std::vector<Section> Sections() const;
+  static CompareNodeInfo Heading(const char* node, const std::wstring& label, bool expanded);
+  void AddSubjects(const Section& section, std::vector<CompareNodeInfo>& nodes);
+  CompareNodeInfo NodeOf(const CompareSubject& subject) const;
+  std::string UniqueNode(const Section& section, const std::string& name);
+  void ShowDifferences();
 
   const Board& a_;
   const Board& b_;

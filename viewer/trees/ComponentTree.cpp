@@ -1,4 +1,5 @@
 #include <viewer/trees/ComponentTree.h>
+#include <viewer/trees/NodeBatch.h>
 #include <viewer/trees/NodeName.h>
 #include <viewer/trees/ReferencePrefix.h>
 #include <viewer/trees/TreeTexts.h>
@@ -16,6 +17,7 @@ using oxecadutils::Utf8ToWideStr;
 constexpr const char* kComponentKind = "component";
 constexpr const char* kComponentType = "component";
 constexpr const char* kGroupType = "componentgroup";
+constexpr const char* kNoReferenceNode = "SelAll_:";
 constexpr const wchar_t* kNoReference = L"(no reference)";
 constexpr const wchar_t* kNoPrefix = L"(no prefix)";
 
@@ -44,32 +46,36 @@ ComponentTree::ComponentTree(const char* device, const Board& board)
 
 void ComponentTree::Fill() {
   Init();
-  SetRedraw(false);
   BaseTree::AddNode(kRoot, WideTreeText("Components").c_str(), "", "components", L"", 1, 1, 0, nullptr);
-  constexpr const char* kNoReferenceNode = "SelAll_:";
+  AddGroups();
+  NodeBatch nodes;
+  for (std::size_t i = 0; i < board_.components.size(); ++i) {
+    const oxviewer::Component& component = board_.components[i];
+    const std::string parent = component.reference.empty() ? kNoReferenceNode : SelectAllName(GroupOf(component));
+    nodes.Add({nodes_[i], Utf8ToWideStr(ComponentLabel(component)), parent, kComponentType,
+               Utf8ToWideStr(component.value), 0, DataOf(component)});
+  }
+  nodes.AddTo(*this);
+}
+
+// Components without a reference stand behind all groups.
+void ComponentTree::AddGroups() {
+  std::set<std::string> prefixes;
   bool nameless = false;
-  std::set<std::string> groups;
   for (const oxviewer::Component& component : board_.components) {
     if (component.reference.empty()) {
       nameless = true;
     } else {
-      groups.insert(GroupOf(component));
+      prefixes.insert(GroupOf(component));
     }
   }
-  for (const std::string& prefix : groups) AddGroup(prefix);
-  if (nameless) BaseTree::AddNode(kNoReferenceNode, kNoReference, kRoot, kGroupType, L"", 1, 0, 0, nullptr);
-  for (std::size_t i = 0; i < board_.components.size(); ++i) {
-    const oxviewer::Component& component = board_.components[i];
-    const std::string parent = component.reference.empty() ? kNoReferenceNode : SelectAllName(GroupOf(component));
-    AddEcadNode(nodes_[i].c_str(), Utf8ToWideStr(ComponentLabel(component)).c_str(), parent.c_str(), ByLabel,
-                kComponentType, Utf8ToWideStr(component.value).c_str(), 1, 0, 0, DataOf(component));
+  NodeBatch groups;
+  for (const std::string& prefix : prefixes) {
+    groups.Add({SelectAllName(prefix), prefix.empty() ? kNoPrefix : Utf8ToWideStr(prefix), kRoot, kGroupType, L"", 0,
+                nullptr});
   }
-  SetRedraw(true);
-}
-
-void ComponentTree::AddGroup(const std::string& prefix) {
-  const std::wstring label = prefix.empty() ? kNoPrefix : Utf8ToWideStr(prefix);
-  AddEcadNode(SelectAllName(prefix).c_str(), label.c_str(), kRoot, ByLabel, kGroupType, L"", 1, 0, 0, nullptr);
+  groups.AddTo(*this);
+  if (nameless) BaseTree::AddNode(kNoReferenceNode, kNoReference, kRoot, kGroupType, L"", 1, 0, 0, nullptr);
 }
 
 }  // namespace oxviewer

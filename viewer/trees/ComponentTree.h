@@ -33,7 +33,7 @@ class ComponentTree : public ObjectTree {
   const std::string& NodeOf(ComponentId component) const { return nodes_[static_cast<std::size_t>(component)]; }
 
  private:
-  void AddGroup(const std::string& prefix);
+  void AddGroups();
 
   const Board& board_;
   std::vector<std::string> nodes_;

@@ -1,4 +1,5 @@
 #include <viewer/trees/NetTree.h>
+#include <viewer/trees/NodeBatch.h>
 #include <viewer/trees/NodeName.h>
 #include <viewer/trees/TreeTexts.h>
 
@@ -25,26 +26,25 @@ std::string NetTree::NodeOf(const Net& net) { return NodeName(kNetKind, net.name
 
 void NetTree::Fill() {
   Init();
-  SetRedraw(false);
   BaseTree::AddNode(kRoot, WideTreeText("Nets").c_str(), "", "nets", L"", 1, 1, 0, nullptr);
+  NodeBatch nodes;
   std::vector<std::string> classNodes;
   for (const NetClass& netClass : board_.netClasses) {
     classNodes.push_back(SelectAllName(netClass.name));
+    const std::string& node = classNodes.back();
     const std::wstring label = Utf8ToWideStr(netClass.name);
-    const char* node = classNodes.back().c_str();
-    // What AddEcadNode did not add it does not look at: so the default class stays in front of the others.
+    // What was not added in natural order is not looked at: so the default class stays in front of the others.
     if (classNodes.size() == 1) {
-      BaseTree::AddNode(node, label.c_str(), kRoot, kClassType, L"", 1, 1, 0, nullptr);
+      BaseTree::AddNode(node.c_str(), label.c_str(), kRoot, kClassType, L"", 1, 1, 0, nullptr);
     } else {
-      AddEcadNode(node, label.c_str(), kRoot, ByLabel, kClassType, L"", 1, 1, 0, nullptr);
+      nodes.Add({node, label, kRoot, kClassType, L"", 1, nullptr});
     }
   }
   for (const Net& net : board_.nets) {
     const std::string& parent = classNodes[static_cast<std::size_t>(net.netClass)];
-    AddEcadNode(NodeOf(net).c_str(), Utf8ToWideStr(net.name).c_str(), parent.c_str(), ByLabel, kPlainType, L"", 1, 0, 0,
-                DataOf(net));
+    nodes.Add({NodeOf(net), Utf8ToWideStr(net.name), parent, kPlainType, L"", 0, DataOf(net)});
   }
-  SetRedraw(true);
+  nodes.AddTo(*this);
 }
 
 void NetTree::SetType(const Net& net, const char* type) {

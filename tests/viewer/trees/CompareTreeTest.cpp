@@ -67,30 +67,30 @@ TEST_F(CompareTreeTest, DumpHasFiveCellsAndTheDifferenceOfEachNode) {
 TEST_F(CompareTreeTest, ColourOfAHeadingGoesToAllBelowItThatADesignHas) {
   oxcore::QueueColorAnswer(0x0000FF);
   ASSERT_TRUE(user_.ClickCell(CompareTree::kName, "nets", "a"));
-  EXPECT_EQ(Look("net:N9").colorA, 0x0000FFu);
-  EXPECT_EQ(Look("component:R1").colorA, CompareTree::kColorA);
+  EXPECT_EQ(Look("nets/net:N9").colorA, 0x0000FFu);
+  EXPECT_EQ(Look("components/component:R1").colorA, CompareTree::kColorA);
   EXPECT_EQ(changes_, 1);
 }
 
 TEST_F(CompareTreeTest, ColourOfOneNetMakesItsHeadingMixed) {
   oxcore::QueueColorAnswer(0x0000FF);
-  ASSERT_TRUE(user_.ClickCell(CompareTree::kName, "net:N9", "b"));
-  EXPECT_EQ(Look("net:N9").colorB, 0x0000FFu);
+  ASSERT_TRUE(user_.ClickCell(CompareTree::kName, "nets/net:N9", "b"));
+  EXPECT_EQ(Look("nets/net:N9").colorB, 0x0000FFu);
   EXPECT_NE(trees_.Dump().find("  Nets\ttype=colorvis\tstate=0\tcolor=none\ta=#d97706\tb=mix"), std::string::npos);
 }
 
 TEST_F(CompareTreeTest, ChosenShowModeIsThatOfTheBranch) {
   ASSERT_TRUE(user_.ClickCell(CompareTree::kName, "nets", "showMode"));
   ASSERT_TRUE(user_.ChooseCellOption(CompareTree::kName, "nets", "showMode", "diff_show"));
-  EXPECT_EQ(Look("net:N9").showMode, ShowMode::Diff);
-  EXPECT_EQ(Look("layer:F.Cu").showMode, ShowMode::Both);
+  EXPECT_EQ(Look("nets/net:N9").showMode, ShowMode::Diff);
+  EXPECT_EQ(Look("layers/layer:F.Cu").showMode, ShowMode::Both);
   EXPECT_EQ(changes_, 1);
 }
 
 TEST_F(CompareTreeTest, DimBoxIsThatOfTheBranch) {
   ASSERT_TRUE(user_.ToggleCellCheck(CompareTree::kName, "components", "dimOverlap"));
-  EXPECT_TRUE(Look("component:R2").dimOverlap);
-  EXPECT_FALSE(Look("net:N9").dimOverlap);
+  EXPECT_TRUE(Look("components/component:R2").dimOverlap);
+  EXPECT_FALSE(Look("nets/net:N9").dimOverlap);
 }
 
 TEST_F(CompareTreeTest, NextDifferenceGoesRoundTheEndBothWays) {
@@ -98,9 +98,10 @@ TEST_F(CompareTreeTest, NextDifferenceGoesRoundTheEndBothWays) {
   std::vector<std::string> visited;
   std::size_t at = CompareTree::kNone;
   for (int i = 0; i < 5; ++i) visited.push_back(NodeOf(at = Tree().NextDifference(at, false, any)));
-  EXPECT_EQ(visited, (std::vector<std::string>{"component:R1", "net:%2Fb", "net:N10", "net:ONLY%5FA", "component:R1"}));
-  EXPECT_EQ(NodeOf(Tree().NextDifference(at, true, any)), "net:ONLY%5FA");
-  EXPECT_EQ(NodeOf(Tree().NextDifference(CompareTree::kNone, true, any)), "net:ONLY%5FA");
+  EXPECT_EQ(visited, (std::vector<std::string>{"components/component:R1", "nets/net:%2Fb", "nets/net:N10",
+                                               "nets/net:ONLY%5FA", "components/component:R1"}));
+  EXPECT_EQ(NodeOf(Tree().NextDifference(at, true, any)), "nets/net:ONLY%5FA");
+  EXPECT_EQ(NodeOf(Tree().NextDifference(CompareTree::kNone, true, any)), "nets/net:ONLY%5FA");
 }
 
 TEST_F(CompareTreeTest, NextDifferencePassesOverWhatIsRefused) {
@@ -115,16 +116,16 @@ TEST_F(CompareTreeTest, NextDifferencePassesOverWhatIsRefused) {
 TEST_F(CompareTreeTest, SelectedHeadingStandsForAllBelowIt) {
   int told = 0;
   Tree().SetOnSelection([&] { ++told; });
-  ASSERT_TRUE(user_.Select(CompareTree::kName, {"components", "net:N9", "component:R1"}));
-  EXPECT_EQ(Tree().Selected(),
-            (std::vector<std::size_t>{Subject("component:R1"), Subject("component:R2"), Subject("net:N9")}));
+  ASSERT_TRUE(user_.Select(CompareTree::kName, {"components", "nets/net:N9", "components/component:R1"}));
+  EXPECT_EQ(Tree().Selected(), (std::vector<std::size_t>{Subject("components/component:R1"),
+                                                         Subject("components/component:R2"), Subject("nets/net:N9")}));
   EXPECT_EQ(told, 1);
 }
 
 TEST_F(CompareTreeTest, FilterTextIsFoundInNamesAndDifferences) {
-  EXPECT_TRUE(Tree().Matches(Subject("net:N10"), HoldingText("n1")));
-  EXPECT_TRUE(Tree().Matches(Subject("net:N10"), HoldingText("TRACK")));
-  EXPECT_FALSE(Tree().Matches(Subject("net:N9"), HoldingText("track")));
+  EXPECT_TRUE(Tree().Matches(Subject("nets/net:N10"), HoldingText("n1")));
+  EXPECT_TRUE(Tree().Matches(Subject("nets/net:N10"), HoldingText("TRACK")));
+  EXPECT_FALSE(Tree().Matches(Subject("nets/net:N9"), HoldingText("track")));
 }
 
 TEST(CompareTreeNodes, OfComponentsThatShareAReferenceAreDifferent) {
@@ -133,7 +134,8 @@ TEST(CompareTreeNodes, OfComponentsThatShareAReferenceAreDifferent) {
   BoardTrees trees(a, a, diff, nullptr);
   std::vector<std::string> children;
   trees.Compare()->GetChildren("components", children);
-  EXPECT_EQ(children, (std::vector<std::string>{"component:%", "component:R1", "component:R1:2"}));
+  EXPECT_EQ(children, (std::vector<std::string>{"components/component:%", "components/component:R1",
+                                                "components/component:R1:2"}));
 }
 
 TEST(CompareTreeNodes, OfARenamedNetNameEachOther) {

@@ -104,36 +104,36 @@ TEST_F(CompareWindowTest, ShowModesLetTheirPartsThrough) {
               {"diff_show", {kA, kBackground, kB}},
               {"both_show", {kA, kBothHave, kB}}};
   for (const auto& row : rows) {
-    ChooseMode("net:N", row.mode);
+    ChooseMode("nets/net:N", row.mode);
     EXPECT_EQ(Colors(), row.colors) << row.mode;
   }
 }
 
 TEST_F(CompareWindowTest, DimBoxDimsTheOverlap) {
-  ClickCell("net:N", 5);
+  ClickCell("nets/net:N", 5);
   EXPECT_EQ(ColorAt(10, 5), kA);
   EXPECT_LT(qRed(ColorAt(10, 10)), qRed(kBothHave) / 2);
 }
 
 TEST_F(CompareWindowTest, ChosenColourOfAShowsAtOnce) {
-  ChooseColor("net:N", kColumnA, kA, 0x00FF00);
+  ChooseColor("nets/net:N", kColumnA, kA, 0x00FF00);
   EXPECT_EQ(Colors(), (std::vector<QRgb>{0x00FF00, kBothHave, kB}));
 }
 
 TEST_F(CompareWindowTest, ChosenColourOfBShowsAtOnce) {
-  ChooseColor("net:N", kColumnB, kB, 0x00FF00);
+  ChooseColor("nets/net:N", kColumnB, kB, 0x00FF00);
   EXPECT_EQ(Colors(), (std::vector<QRgb>{kA, kBothHave, 0x00FF00}));
 }
 
 TEST_F(CompareWindowTest, ChosenColourOfTheOverlapShowsAtOnce) {
-  ChooseColor("net:N", kColumnOverlap, kBothHave, 0x00FF00);
+  ChooseColor("nets/net:N", kColumnOverlap, kBothHave, 0x00FF00);
   EXPECT_EQ(Colors(), (std::vector<QRgb>{kA, 0x00FF00, kB}));
 }
 
 TEST_F(CompareWindowTest, CancelledColoursChangeNothing) {
   for (const int column : {kColumnA, kColumnB, kColumnOverlap}) {
     Soon([] { qobject_cast<QDialog*>(QApplication::activeModalWidget())->reject(); });
-    ClickCell("net:N", column);
+    ClickCell("nets/net:N", column);
   }
   EXPECT_EQ(Colors(), (std::vector<QRgb>{kA, kBothHave, kB}));
 }
@@ -146,36 +146,36 @@ TEST_F(CompareWindowTest, ColourOfAHeadingGoesDownToAllBelow) {
 // --- The menu of show modes ------------------------------------------------------------------------------------------
 
 TEST_F(CompareWindowTest, ClickedShowModeCellOpensItsMenuAndTakesTheChoice) {
-  ClickCell("net:N", kColumnShow);
-  QComboBox* menu = MenuIn("net:N");
+  ClickCell("nets/net:N", kColumnShow);
+  QComboBox* menu = MenuIn("nets/net:N");
   ASSERT_TRUE(menu);
   EXPECT_EQ(menu->count(), 8);
   EXPECT_TRUE(menu->view()->isVisible());
   Choose(*menu, "a-b_show");
-  EXPECT_EQ(MenuIn("net:N"), nullptr);
+  EXPECT_EQ(MenuIn("nets/net:N"), nullptr);
   EXPECT_EQ(Colors(), (std::vector<QRgb>{kA, kBackground, kBackground}));
 }
 
 TEST_F(CompareWindowTest, NoChoiceLeavesTheShowModeAndTakesTheMenuAway) {
-  ClickCell("net:N", kColumnShow);
-  ASSERT_TRUE(MenuIn("net:N"));
-  Choose(*MenuIn("net:N"), "none");
-  EXPECT_EQ(MenuIn("net:N"), nullptr);
+  ClickCell("nets/net:N", kColumnShow);
+  ASSERT_TRUE(MenuIn("nets/net:N"));
+  Choose(*MenuIn("nets/net:N"), "none");
+  EXPECT_EQ(MenuIn("nets/net:N"), nullptr);
   EXPECT_EQ(Colors(), (std::vector<QRgb>{kA, kBothHave, kB}));
 }
 
 TEST_F(CompareWindowTest, SecondShowModeCellTakesTheMenuFromTheFirst) {
-  ClickCell("net:SAME", kColumnShow);
-  ASSERT_TRUE(MenuIn("net:SAME"));
-  MenuIn("net:SAME")->hidePopup();  // as the click outside does
-  ClickCell("net:N", kColumnShow);
-  EXPECT_EQ(MenuIn("net:SAME"), nullptr);
-  ASSERT_TRUE(MenuIn("net:N"));
-  Choose(*MenuIn("net:N"), "diff_show");
+  ClickCell("nets/net:SAME", kColumnShow);
+  ASSERT_TRUE(MenuIn("nets/net:SAME"));
+  MenuIn("nets/net:SAME")->hidePopup();  // as the click outside does
+  ClickCell("nets/net:N", kColumnShow);
+  EXPECT_EQ(MenuIn("nets/net:SAME"), nullptr);
+  ASSERT_TRUE(MenuIn("nets/net:N"));
+  Choose(*MenuIn("nets/net:N"), "diff_show");
   EXPECT_EQ(Colors(), (std::vector<QRgb>{kA, kBackground, kB}));
   const auto& subjects = Tree().Subjects();
   for (std::size_t i = 0; i < subjects.size(); ++i) {
-    if (subjects[i].node != "net:SAME") continue;
+    if (subjects[i].node != "nets/net:SAME") continue;
     EXPECT_EQ(Tree().LookOf(i).showMode, oxk::ecad::CompareColorVis::Both);
   }
 }
@@ -187,12 +187,12 @@ TEST_F(CompareWindowTest, DimBoxOfAHeadingShowsThreeStatesAndTogglesAllBelow) {
     return IndexOf(Panel(), node, kColumnDim).data(Qt::CheckStateRole).toInt();
   };
   EXPECT_EQ(state("nets"), Qt::Unchecked);
-  ClickCell("net:N", kColumnDim);
-  EXPECT_EQ(state("net:N"), Qt::Checked);
+  ClickCell("nets/net:N", kColumnDim);
+  EXPECT_EQ(state("nets/net:N"), Qt::Checked);
   EXPECT_EQ(state("nets"), Qt::PartiallyChecked);
   ClickCell("nets", kColumnDim);
   EXPECT_EQ(state("nets"), Qt::Checked);
-  EXPECT_EQ(state("net:SAME"), Qt::Checked);
+  EXPECT_EQ(state("nets/net:SAME"), Qt::Checked);
   ClickCell("nets", kColumnDim);
   EXPECT_EQ(state("nets"), Qt::Unchecked);
   EXPECT_EQ(ColorAt(10.3, 10.3), kBothHave);
@@ -202,15 +202,15 @@ TEST_F(CompareWindowTest, KeyGoesFromDifferenceToDifference) {
   QTest::keyClick(&Window(), Qt::Key_F3);
   Settle();
   ASSERT_EQ(Tree().Selected().size(), 1u);
-  EXPECT_EQ(Tree().Subjects()[Tree().Selected()[0]].node, "net:N");
+  EXPECT_EQ(Tree().Subjects()[Tree().Selected()[0]].node, "nets/net:N");
   EXPECT_TRUE(View().CurrentViewport().Area().contains(QRectF(2, 5, 26, 10)));
   QTest::keyClick(&Window(), Qt::Key_F3, Qt::ShiftModifier);
   Settle();
-  EXPECT_EQ(Tree().Subjects()[Tree().Selected().at(0)].node, "net:N");
+  EXPECT_EQ(Tree().Subjects()[Tree().Selected().at(0)].node, "nets/net:N");
 }
 
 TEST_F(CompareWindowTest, SelectedNetStandsOut) {
-  ClickNode(Panel(), "net:SAME");
+  ClickNode(Panel(), "nets/net:SAME");
   EXPECT_EQ(ColorAt(10, 18), kBothHave);
   EXPECT_LT(qRed(ColorAt(10, 10)), qRed(kBothHave));
 }
@@ -218,11 +218,11 @@ TEST_F(CompareWindowTest, SelectedNetStandsOut) {
 TEST_F(CompareWindowTest, FilterAndBoxLeaveDifferencesOnly) {
   for (QCheckBox* box : Window().Comparison().findChildren<QCheckBox*>())
     QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(6, box->height() / 2));
-  EXPECT_TRUE(IsHidden(Panel(), "net:SAME"));
-  EXPECT_FALSE(IsHidden(Panel(), "net:N"));
+  EXPECT_TRUE(IsHidden(Panel(), "nets/net:SAME"));
+  EXPECT_FALSE(IsHidden(Panel(), "nets/net:N"));
   EXPECT_TRUE(IsHidden(Panel(), "layers"));
   QTest::keyClicks(&Panel().Filter(), "no such name");
-  EXPECT_TRUE(IsHidden(Panel(), "net:N"));
+  EXPECT_TRUE(IsHidden(Panel(), "nets/net:N"));
 }
 
 TEST_F(CompareWindowTest, HiddenLayerIsGoneFromBothBoards) {

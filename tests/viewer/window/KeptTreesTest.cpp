@@ -61,7 +61,7 @@ TEST_F(KeptTreesTest, ComparisonAndItsColumnsAreThereAgain) {
   const auto compare = [this] { Compare(SmallBoard(kWindowBoard), SmallBoard("(net 0 \"\") (net 1 \"GND\")")); };
   compare();
   CompareTree* tree = Session().Trees().Compare();
-  const std::size_t gnd = tree->SubjectOf("net:GND");
+  const std::size_t gnd = tree->SubjectOf("nets/net:GND");
   CompareLook look = tree->LookOf(gnd);
   look.colorA = ColorOf(1, 2, 3);
   look.showMode = oxk::ecad::CompareColorVis::Diff;

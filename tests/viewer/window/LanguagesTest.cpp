@@ -107,7 +107,7 @@ TEST_F(LanguagesTest, EveryTextOfTheWindowIsTranslated) {
     expect(IndexOf(Window().LayersPanel(), node).data().toString(), node);
   }
   expect(IndexOf(Window().Comparison().Panel(), "nets", 6).data().toString(), "summary");
-  expect(IndexOf(Window().Comparison().Panel(), "net:VCC", 6).data().toString(), "difference");
+  expect(IndexOf(Window().Comparison().Panel(), "nets/net:VCC", 6).data().toString(), "difference");
   expect(IndexOf(Window().PartsPanel(), "kind:3").data().toString(), "kind");
   const QAbstractItemModel& compare = Window().Comparison().Panel().View().Model();
   for (int i = 0; i < compare.columnCount(); ++i) expect(compare.headerData(i, Qt::Horizontal).toString(), "column");

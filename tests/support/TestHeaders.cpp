@@ -1,0 +1,2 @@
+// Nothing but a program to compile headers for.
+int main() { return 0; }
