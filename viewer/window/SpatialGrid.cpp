@@ -1,13 +1,17 @@
 #include <viewer/window/SpatialGrid.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstddef>
+#include <utility>
 
 namespace oxviewer {
 namespace {
 
 constexpr int kMostCellsPerSide = 256;
 constexpr double kItemsPerCell = 4;
+constexpr std::size_t kLevels = 9;  // up to one square of kMostCellsPerSide smallest ones over everything
 
 // QRectF leaves empty boxes out of a union and of an intersection; a line that runs straight has one.
 QRectF Joined(const QRectF& a, const QRectF& b) {
@@ -23,36 +27,53 @@ SpatialGrid::SpatialGrid(const std::vector<QRectF>& boxes) : count_(static_cast<
   for (const QRectF& box : boxes) bounds_ = Joined(bounds_, box);
   const double longer = std::max({bounds_.width(), bounds_.height(), 1e-6});
   const double wanted = std::sqrt(static_cast<double>(boxes.size()) / kItemsPerCell);
-  cellSide_ = longer / std::clamp(wanted, 1.0, static_cast<double>(kMostCellsPerSide));
-  columns_ = std::min(kMostCellsPerSide, static_cast<int>(bounds_.width() / cellSide_) + 1);
-  rows_ = std::min(kMostCellsPerSide, static_cast<int>(bounds_.height() / cellSide_) + 1);
-
-  const auto forEachCell = [this](const QRectF& box, auto visit) {
-    const Cells cells = CellsOf(box);
-    for (int row = cells.top; row <= cells.bottom; ++row) {
-      for (int column = cells.left; column <= cells.right; ++column) {
-        visit(static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) + static_cast<std::size_t>(column));
-      }
-    }
-  };
-  starts_.assign(static_cast<std::size_t>(columns_) * static_cast<std::size_t>(rows_) + 1, 0);
-  for (const QRectF& box : boxes) {
-    forEachCell(box, [this](std::size_t cell) { ++starts_[cell + 1]; });
-  }
-  for (std::size_t cell = 1; cell < starts_.size(); ++cell) starts_[cell] += starts_[cell - 1];
-  items_.resize(starts_.back());
-  std::vector<std::uint32_t> next(starts_.begin(), starts_.end() - 1);
+  const double smallest = longer / std::clamp(wanted, 1.0, static_cast<double>(kMostCellsPerSide));
+  std::array<std::vector<std::uint32_t>, kLevels> itemsOf;
   for (std::uint32_t i = 0; i < count_; ++i) {
-    forEachCell(boxes[i], [&](std::size_t cell) { items_[next[cell]++] = i; });
+    const double side = std::max(boxes[i].width(), boxes[i].height());
+    std::size_t level = 0;
+    while (level + 1 < kLevels && side > std::ldexp(smallest, static_cast<int>(level))) ++level;
+    itemsOf[level].push_back(i);
+  }
+  for (std::size_t i = 0; i < kLevels; ++i) {
+    if (itemsOf[i].empty()) continue;
+    Level level;
+    level.cellSide = std::ldexp(smallest, static_cast<int>(i));
+    level.columns = std::min(kMostCellsPerSide, static_cast<int>(bounds_.width() / level.cellSide) + 1);
+    level.rows = std::min(kMostCellsPerSide, static_cast<int>(bounds_.height() / level.cellSide) + 1);
+    Fill(level, boxes, itemsOf[i]);
+    levels_.push_back(std::move(level));
   }
 }
 
-SpatialGrid::Cells SpatialGrid::CellsOf(const QRectF& box) const {
-  const auto cell = [this](double distance, int count) {
-    return std::clamp(static_cast<int>(std::clamp(distance / cellSide_, -1.0, 1e6)), 0, count - 1);
+void SpatialGrid::Fill(Level& level, const std::vector<QRectF>& boxes, const std::vector<std::uint32_t>& items) const {
+  const auto forEachCell = [&](std::uint32_t item, auto visit) {
+    const Cells cells = CellsOf(level, boxes[item]);
+    for (int row = cells.top; row <= cells.bottom; ++row) {
+      for (int column = cells.left; column <= cells.right; ++column) {
+        visit(static_cast<std::size_t>(row) * static_cast<std::size_t>(level.columns) +
+              static_cast<std::size_t>(column));
+      }
+    }
   };
-  return {cell(box.left() - bounds_.left(), columns_), cell(box.top() - bounds_.top(), rows_),
-          cell(box.right() - bounds_.left(), columns_), cell(box.bottom() - bounds_.top(), rows_)};
+  level.starts.assign(static_cast<std::size_t>(level.columns) * static_cast<std::size_t>(level.rows) + 1, 0);
+  for (const std::uint32_t item : items) {
+    forEachCell(item, [&level](std::size_t cell) { ++level.starts[cell + 1]; });
+  }
+  for (std::size_t cell = 1; cell < level.starts.size(); ++cell) level.starts[cell] += level.starts[cell - 1];
+  level.items.resize(level.starts.back());
+  std::vector<std::size_t> next(level.starts.begin(), level.starts.end() - 1);
+  for (const std::uint32_t item : items) {
+    forEachCell(item, [&](std::size_t cell) { level.items[next[cell]++] = item; });
+  }
+}
+
+SpatialGrid::Cells SpatialGrid::CellsOf(const Level& level, const QRectF& box) const {
+  const auto cell = [&level](double distance, int count) {
+    return std::clamp(static_cast<int>(std::clamp(distance / level.cellSide, -1.0, 1e6)), 0, count - 1);
+  };
+  return {cell(box.left() - bounds_.left(), level.columns), cell(box.top() - bounds_.top(), level.rows),
+          cell(box.right() - bounds_.left(), level.columns), cell(box.bottom() - bounds_.top(), level.rows)};
 }
 
 void SpatialGrid::Find(const QRectF& area, std::vector<std::uint32_t>& items) const {
@@ -61,20 +82,29 @@ void SpatialGrid::Find(const QRectF& area, std::vector<std::uint32_t>& items) co
       area.top() > bounds_.bottom()) {
     return;
   }
-  const Cells cells = CellsOf(area);
-  if (cells.left == 0 && cells.top == 0 && cells.right == columns_ - 1 && cells.bottom == rows_ - 1) {
+  if (area.left() <= bounds_.left() && area.top() <= bounds_.top() && area.right() >= bounds_.right() &&
+      area.bottom() >= bounds_.bottom()) {
     items.resize(count_);
     for (std::uint32_t i = 0; i < count_; ++i) items[i] = i;
     return;
   }
-  for (int row = cells.top; row <= cells.bottom; ++row) {
-    const auto first = static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_);
-    const auto from = starts_[first + static_cast<std::size_t>(cells.left)];
-    const auto to = starts_[first + static_cast<std::size_t>(cells.right) + 1];
-    items.insert(items.end(), items_.begin() + from, items_.begin() + to);
+  for (const Level& level : levels_) {
+    const Cells cells = CellsOf(level, area);
+    for (int row = cells.top; row <= cells.bottom; ++row) {
+      const auto first = static_cast<std::size_t>(row) * static_cast<std::size_t>(level.columns);
+      const auto from = static_cast<std::ptrdiff_t>(level.starts[first + static_cast<std::size_t>(cells.left)]);
+      const auto to = static_cast<std::ptrdiff_t>(level.starts[first + static_cast<std::size_t>(cells.right) + 1]);
+      items.insert(items.end(), level.items.begin() + from, level.items.begin() + to);
+    }
   }
   std::sort(items.begin(), items.end());
   items.erase(std::unique(items.begin(), items.end()), items.end());
+}
+
+std::size_t SpatialGrid::EntryCount() const {
+  std::size_t count = 0;
+  for (const Level& level : levels_) count += level.items.size();
+  return count;
 }
 
 }  // namespace oxviewer

@@ -10,17 +10,21 @@
 
 namespace oxviewer {
 
-/// Squares over a set of boxes, each with the items whose boxes touch it. Does not change once it is made, so that
-/// several threads may read it.
+/// Squares over a set of boxes, each with the items whose boxes touch it: small squares for small boxes, larger ones
+/// for larger boxes, so that no item stands in more than four. Does not change once it is made, so that several threads
+/// may read it.
 class SpatialGrid {
  public:
   SpatialGrid() = default;
-  /// Item i has the box `boxes[i]`.
+  /// Item i has the box `boxes[i]`. Linear.
   explicit SpatialGrid(const std::vector<QRectF>& boxes);
 
   /// Puts the items whose boxes may touch the area into `items`, in ascending order and each once; replaces what was
   /// there.
   void Find(const QRectF& area, std::vector<std::uint32_t>& items) const;
+
+  /// In how many squares the items stand, all together.
+  std::size_t EntryCount() const;
 
  private:
   struct Cells {
@@ -29,15 +33,20 @@ class SpatialGrid {
     int right;
     int bottom;
   };
-  Cells CellsOf(const QRectF& box) const;
+  // Squares of one size; a level's are twice as wide as those of the one before.
+  struct Level {
+    double cellSide = 1;
+    int columns = 1;
+    int rows = 1;
+    std::vector<std::size_t> starts;  // by cell: where its items begin
+    std::vector<std::uint32_t> items;
+  };
+  Cells CellsOf(const Level& level, const QRectF& box) const;
+  void Fill(Level& level, const std::vector<QRectF>& boxes, const std::vector<std::uint32_t>& items) const;
 
   QRectF bounds_;
-  int columns_ = 0;
-  int rows_ = 0;
-  double cellSide_ = 1;
   std::uint32_t count_ = 0;
-  std::vector<std::uint32_t> starts_;  // by cell: where its items begin
-  std::vector<std::uint32_t> items_;
+  std::vector<Level> levels_;  // those that hold something
 };
 
 }  // namespace oxviewer

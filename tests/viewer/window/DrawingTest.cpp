@@ -44,6 +44,34 @@ RC_GTEST_PROP(SpatialGrid, FindsEverythingThatTouchesAnArea, ()) {
   for (const std::uint32_t item : found) RC_ASSERT(item < boxes.size());
 }
 
+// Lengths and widths from a point to everything, so that squares of all sizes are in use.
+TEST(SpatialGrid, FindsBoxesOfAllSizes) {
+  std::vector<QRectF> boxes;
+  for (int i = 0; i < 3000; ++i) {
+    const double side = std::ldexp(1.0, i % 11) - 1;
+    boxes.emplace_back(i * 37 % 1024, i * 101 % 1024, i % 3 == 0 ? 0 : side, i % 5 == 0 ? 0 : side);
+  }
+  const SpatialGrid grid(boxes);
+  for (const QRectF& area : {QRectF(0, 0, 0, 0), QRectF(500, 500, 1, 1), QRectF(1000, 3, 90, 400),
+                             QRectF(-9, -9, 5000, 5000), QRectF(2046, 2046, 1, 1)}) {
+    std::vector<std::uint32_t> found;
+    grid.Find(area, found);
+    EXPECT_TRUE(std::is_sorted(found.begin(), found.end()));
+    for (std::uint32_t i = 0; i < boxes.size(); ++i) {
+      const QRectF& item = boxes[i];
+      const bool touches = item.left() <= area.right() && item.right() >= area.left() && item.top() <= area.bottom() &&
+                           item.bottom() >= area.top();
+      EXPECT_TRUE(!touches || std::binary_search(found.begin(), found.end(), i)) << i;
+    }
+  }
+}
+
+TEST(SpatialGrid, TakesNoMoreRoomForLargeBoxesThanForSmallOnes) {
+  std::vector<QRectF> boxes;
+  for (int i = 0; i < 10000; ++i) boxes.emplace_back(i % 100, i % 97, i % 3 == 0 ? 2000 : 0, 1000);
+  EXPECT_LE(SpatialGrid(boxes).EntryCount(), 4 * boxes.size());
+}
+
 TEST(SpatialGrid, OfNothingFindsNothing) {
   std::vector<std::uint32_t> found{1};
   SpatialGrid(std::vector<QRectF>{}).Find(QRectF(0, 0, 1, 1), found);
