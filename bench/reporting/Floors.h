@@ -13,6 +13,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "bench/reporting/Stage.h"
+
 namespace oxecad_bench {
 
 /// Labels kept in order by keys of 16 bytes, in chunks that are never long.
@@ -51,6 +53,14 @@ class ChunkedKeys {
 template <class Value>
 class NamedNodes {
  public:
+  NamedNodes() = default;
+  /// The nodes of grouped nets; `valueOf(group)` gives their values.
+  template <class ValueOfGroup>
+  NamedNodes(const GroupedNets& grouped, const ValueOfGroup& valueOf) {
+    ForEachNode(grouped, [&](const std::string& name, const std::string& parent, const std::wstring&,
+                             std::size_t group) { Add(name, parent, valueOf(group)); });
+  }
+
   void Add(const std::string& name, const std::string& parent, Value value) {
     const auto node = static_cast<std::uint32_t>(values_.size());
     if (!parent.empty()) children_[Find(parent)].push_back(name);

@@ -83,15 +83,27 @@ void SumUpColors(Item* item, ColorIcons& icons) {
 QStandardItem* AppendItem(QStandardItem& parent, const QString& text);
 QTreeWidgetItem* AppendItem(QTreeWidgetItem& parent, const QString& text);
 
-/// Adds groups and leaves below an item, in their colours.
-template <class Item, class ColorOfGroup>
-void AddItems(Item& root, const Shape& shape, ColorIcons& icons, const ColorOfGroup& colorOf) {
-  for (std::size_t group = 0; group < shape.groups; ++group) {
-    Item* parent = AppendItem(root, QStringLiteral("net"));
-    for (std::size_t leaf = 0; leaf < shape.leaves; ++leaf) AppendItem(*parent, QStringLiteral("net"));
-    SetBranchColor(*parent, colorOf(group), icons);
+/// A root with groups and nets below an item, coloured by `colorOf(group)`.
+template <class Item>
+struct GroupedItems {
+  template <class ColorOfGroup>
+  GroupedItems(Item& owner, const GroupedNets& grouped, ColorIcons& icons, const ColorOfGroup& colorOf)
+      : root(AppendItem(owner, QStringLiteral("Nets"))) {
+    for (std::size_t group = 0; group < grouped.groups; ++group) {
+      groups.push_back(AppendItem(*root, QStringLiteral("Group")));
+      SetColor(*groups.back(), colorOf(group), icons);
+    }
+    for (std::size_t net = 0; net < grouped.nets.texts.size(); ++net) {
+      const std::size_t group = grouped.GroupOf(net);
+      nets.push_back(AppendItem(*groups[group], grouped.nets.texts[net]));
+      SetColor(*nets.back(), colorOf(group), icons);
+    }
+    SumUpColors(root, icons);
   }
-}
+  Item* root;
+  std::vector<Item*> groups;
+  std::vector<Item*> nets;
+};
 
 }  // namespace oxecad_bench
 

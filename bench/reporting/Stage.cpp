@@ -1,5 +1,7 @@
 #include "bench/reporting/Stage.h"
 
+#include <oxecadutils/StringConversion.h>
+
 namespace oxecad_bench {
 
 namespace {
@@ -21,8 +23,10 @@ Nets::Nets(std::size_t count) : labels(NetLabels(count)) {
 
 std::string GroupName(std::size_t group) { return "g" + std::to_string(group); }
 
-std::string LeafName(std::size_t group, std::size_t leaf) {
-  return GroupName(group).append("/l").append(std::to_string(leaf));
+GroupedNets::GroupedNets(std::size_t groupCount, std::size_t leaves) : groups(groupCount), nets(groupCount * leaves) {
+  for (std::size_t net = 0; net < nets.names.size(); ++net) {
+    nets.names[net] = GroupName(GroupOf(net)).append("/").append(oxecadutils::WideStrToUtf8(nets.labels[net]));
+  }
 }
 
 void SetStage() {

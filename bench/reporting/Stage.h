@@ -31,18 +31,21 @@ struct Nets {
   std::vector<QString> texts;        ///< the labels for Qt
 };
 
-/// "g5", the name of a branch below "root", and "g5/l7", that of a leaf below it.
+/// "g5", the name of a branch below "root".
 std::string GroupName(std::size_t group);
-std::string LeafName(std::size_t group, std::size_t leaf);
 
-/// Nodes in three levels: the root, groups, and leaves below each group.
-struct Shape {
-  std::size_t groups = 0;
-  std::size_t leaves = 0;  ///< of each group
+/// Nets in three levels: the root, groups, and so many leaves below each group. A net's name tells its group, as colour
+/// and compare trees need it. Nets come in the order in which a design names them: one group's after another's.
+struct GroupedNets {
+  GroupedNets(std::size_t groups, std::size_t leaves);
+  /// So many nodes, with 99 leaves to a group.
+  static GroupedNets OfNodes(std::size_t nodes) { return {nodes / 100, 99}; }
 
-  /// So many nodes, with 99 leaves to a group; a few less where that does not come out even.
-  static Shape OfNodes(std::size_t nodes) { return {nodes / 100, 99}; }
-  std::size_t Nodes() const { return 1 + groups * (1 + leaves); }
+  std::size_t Nodes() const { return 1 + groups + nets.names.size(); }
+  std::size_t GroupOf(std::size_t net) const { return net % groups; }
+
+  std::size_t groups;
+  Nets nets;
 };
 
 /// A suite with the tree "tree" of the device "bench" and nothing else.
@@ -77,29 +80,33 @@ class NetTree : public Staged<oxecad_ui::Tree> {
   NetTree() { Append("root", ""); }
 };
 
-/// Records for a colour tree: the root, groups, leaves. `colorOf(group)` gives the colour of a group's leaves.
-template <class ColorOf>
-std::vector<oxecad_ui::ColorTree::ColorNodeInfo> ColorRecords(const Shape& shape, const ColorOf& colorOf);
-
-}  // namespace oxecad_bench
-
-template <class ColorOf>
-std::vector<oxecad_ui::ColorTree::ColorNodeInfo> oxecad_bench::ColorRecords(const Shape& shape,
-                                                                            const ColorOf& colorOf) {
-  std::vector<oxecad_ui::ColorTree::ColorNodeInfo> records;
-  records.reserve(shape.Nodes());
-  const auto add = [&](std::string name, unsigned int color) {
-    auto& record = records.emplace_back();
-    record.name = std::move(name);
-    record.label = L"net";
-    record.color = color;
-  };
-  add("root", colorOf(std::size_t{0}));
-  for (std::size_t group = 0; group < shape.groups; ++group) {
-    add(GroupName(group), colorOf(group));
-    for (std::size_t leaf = 0; leaf < shape.leaves; ++leaf) add(LeafName(group, leaf), colorOf(group));
+/// Calls `add(name, parent, label, group)` for the root, the groups and the nets.
+template <class Add>
+void ForEachNode(const GroupedNets& grouped, const Add& add) {
+  add(std::string("root"), std::string(), std::wstring(L"Nets"), std::size_t{0});
+  for (std::size_t group = 0; group < grouped.groups; ++group) {
+    add(GroupName(group), std::string("root"), std::wstring(L"Group"), group);
   }
+  for (std::size_t net = 0; net < grouped.nets.names.size(); ++net) {
+    const std::size_t group = grouped.GroupOf(net);
+    add(grouped.nets.names[net], GroupName(group), grouped.nets.labels[net], group);
+  }
+}
+
+/// Records for a colour or compare tree; `complete(record, group)` adds what is particular to a record.
+template <class Info, class Complete>
+std::vector<Info> RecordsOf(const GroupedNets& grouped, const Complete& complete) {
+  std::vector<Info> records;
+  records.reserve(grouped.Nodes());
+  ForEachNode(grouped, [&](const std::string& name, const std::string&, const std::wstring& label, std::size_t group) {
+    Info& record = records.emplace_back();
+    record.name = name;
+    record.label = label;
+    complete(record, group);
+  });
   return records;
 }
+
+}  // namespace oxecad_bench
 
 #endif

@@ -15,22 +15,28 @@ const Line kHeads = {"#", "workload", "ours", "peers", "floor", "ratio", "goal",
 
 std::string OrNothing(const std::optional<double>& number) { return number ? Measured(*number) : std::string("–"); }
 
+/// Long times are told in milliseconds.
+std::string ValueOf(double value, const std::string& unit) {
+  constexpr double kMillisecond = 1e6;
+  if (unit == "ns") return value < kMillisecond ? Measured(value) : Measured(value / kMillisecond) + " ms";
+  return Measured(value) + ' ' + unit;
+}
+
 std::string PeersOf(const Figure& figure) {
   if (!figure.peer) return "–";
-  std::string text = Measured(*figure.peer) + ' ' + figure.peer_name;
-  for (const Outcome& other : figure.others) text += "; " + Measured(other.nanoseconds) + ' ' + other.name;
+  std::string text = ValueOf(*figure.peer, figure.unit) + ' ' + figure.peer_name;
+  for (const Outcome& other : figure.others) text += "; " + ValueOf(other.nanoseconds, figure.unit) + ' ' + other.name;
   return text;
 }
 
 std::string FloorOf(const Figure& figure) {
-  return figure.floor ? Measured(*figure.floor) + ' ' + figure.floor_name : std::string("–");
+  return figure.floor ? ValueOf(*figure.floor, figure.unit) + ' ' + figure.floor_name : std::string("–");
 }
 
 Line LineOf(const Figure& figure) {
-  const std::string unit = figure.unit == "ns" ? std::string() : ' ' + figure.unit;
   return {std::to_string(figure.row),
           figure.workload,
-          Measured(figure.ours) + unit,
+          ValueOf(figure.ours, figure.unit),
           PeersOf(figure),
           FloorOf(figure),
           Measured(figure.ratio),

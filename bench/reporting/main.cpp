@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
 #include <filesystem>
 #include <stdexcept>
@@ -27,6 +28,13 @@ constexpr int kWrongArguments = 2;
 void Say(const std::string& text) {
   std::fputs(text.c_str(), stderr);
   std::fflush(stderr);
+}
+
+// The window system's own remarks are of no use here; what it dies of is.
+void TakeMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
+  if (type != QtCriticalMsg && type != QtFatalMsg) return;
+  Say(text.toStdString() + '\n');
+  if (type == QtFatalMsg) std::_Exit(kFailure);
 }
 
 /// A folder for files that are measured with, for as long as this lives.
@@ -100,6 +108,7 @@ int main(int argc, char** argv) {
       return kWrongArguments;
     }
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(&TakeMessage);
     QApplication application(argc, argv);
     return Report(std::get<Options>(parsed), "/proc/self/exe");
   } catch (const std::exception& error) {

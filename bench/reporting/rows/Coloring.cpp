@@ -16,13 +16,14 @@ unsigned int Red(std::size_t) { return kRed; }
 unsigned int Other(unsigned int color) { return color ^ kRed ^ kBlue; }
 
 /// Trees stay as they are between runs: each run gives the root the other one of two colours.
-Contender Ours(const Shape& shape) {
+Contender Ours(const GroupedNets& nets) {
   struct Filled {
     Staged<ColorTree> tree;
     unsigned int color = kRed;
   };
   auto filled = std::make_shared<Filled>();
-  filled->tree.AddNodes(ColorRecords(shape, Red));
+  filled->tree.AddNodes(RecordsOf<ColorTree::ColorNodeInfo>(
+      nets, [](ColorTree::ColorNodeInfo& record, std::size_t) { record.color = kRed; }));
   return {"ChangeNodeColor", [filled](Meter& meter) {
             meter.Run([&] { filled->tree.ChangeNodeColor("root", filled->color = Other(filled->color)); });
           }};
@@ -30,15 +31,15 @@ Contender Ours(const Shape& shape) {
 
 /// `Owner` is a QStandardItemModel or a QTreeWidget.
 template <class Owner>
-Contender Peer(std::string name, const Shape& shape) {
+Contender Peer(std::string name, const GroupedNets& nets) {
   struct Filled {
     Owner owner;
     ColorIcons icons;
     unsigned int color = kRed;
   };
   auto filled = std::make_shared<Filled>();
-  auto* const root = AppendItem(*filled->owner.invisibleRootItem(), QStringLiteral("net"));
-  AddItems(*root, shape, filled->icons, Red);
+  auto* const owner = filled->owner.invisibleRootItem();
+  auto* const root = GroupedItems(*owner, nets, filled->icons, Red).root;
   return {std::move(name), [filled, root](Meter& meter) {
             meter.Run([&] {
               SetBranchColor(*root, filled->color = Other(filled->color), filled->icons);
@@ -47,23 +48,17 @@ Contender Peer(std::string name, const Shape& shape) {
           }};
 }
 
-Contender FloorByName(const Shape& shape) {
-  auto nodes = std::make_shared<NamedNodes<unsigned int>>();
-  for (const auto& record : ColorRecords(shape, Red)) {
-    std::string parent;
-    std::wstring label;
-    oxecad_ui::Tree::NodeInfoToNames(record, parent, label);
-    nodes->Add(record.name, parent, record.color);
-  }
+Contender FloorByName(const GroupedNets& nets) {
+  const auto nodes = std::make_shared<NamedNodes<unsigned int>>(nets, Red);
   return {"by name", [nodes](Meter& meter) { meter.Run([&] { nodes->SetBranch("root", Other(nodes->At("root"))); }); }};
 }
 
 Figure MeasureNodes(std::size_t count) {
-  const Shape shape = Shape::OfNodes(count);
-  const auto outcomes = Race({Ours(shape), Peer<QStandardItemModel>("QStandardItemModel", shape), FloorByName(shape),
-                              Peer<QTreeWidget>("QTreeWidget", shape)},
-                             shape.Nodes());
-  const std::string workload = "a new colour at the root of " + Grouped(shape.Nodes()) + " nodes, per node";
+  const GroupedNets nets = GroupedNets::OfNodes(count);
+  const auto outcomes = Race({Ours(nets), Peer<QStandardItemModel>("QStandardItemModel", nets), FloorByName(nets),
+                              Peer<QTreeWidget>("QTreeWidget", nets)},
+                             nets.Nodes());
+  const std::string workload = "a new colour at the root of " + Grouped(nets.Nodes()) + " nodes, per node";
   return AgainstPeer(WithOther(WithFloor(FigureOf(5, workload, outcomes), outcomes[2]), outcomes[3]), 0.5);
 }
 

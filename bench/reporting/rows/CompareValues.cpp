@@ -25,23 +25,20 @@ struct Values {
   Tree::NodeState dim;
 };
 
-Contender Ours(const Shape& shape) {
+Contender Ours(const GroupedNets& nets) {
   struct Filled {
     Staged<CompareColorTree> tree;
     bool first = true;
   };
   const Values values(true);
-  std::vector<CompareColorTree::CompareNodeInfo> records;
-  for (const auto& node : ColorRecords(shape, [](std::size_t) { return kRed; })) {
-    auto& record = records.emplace_back();
-    record.name = node.name;
-    record.label = node.label;
+  using Info = CompareColorTree::CompareNodeInfo;
+  const auto records = RecordsOf<Info>(nets, [&](Info& record, std::size_t) {
     record.type = CompareColorTree::s_compareType;
     record.colorA = record.colorB = record.colorOverlap = values.color;
     record.showMode = values.mode;
     record.dim = values.dim;
     record.designFlag = CompareColorTree::DesignBoth;
-  }
+  });
   auto filled = std::make_shared<Filled>();
   filled->tree.AddNodes(records);
   return {"ChangeNodeInfo", [filled](Meter& meter) {
@@ -64,80 +61,76 @@ void AppendRow(QStandardItem& parent, const QString& text) {
   parent.appendRow(row);
 }
 
-/// A colour shows itself as a square, a mode as a number, the dimming as a check box.
-void SetRow(QStandardItem& parent, int row, const Values& values) {
-  const QColor color(static_cast<int>(values.color & 0xFF), 0, static_cast<int>(values.color >> 16));
+QString TextOf(ShowMode mode) { return mode == ShowMode::Both ? QStringLiteral("both") : QStringLiteral("diff"); }
+Qt::CheckState CheckOf(Tree::NodeState dim) { return dim == Tree::Checked ? Qt::Checked : Qt::Unchecked; }
+
+void SetRow(QStandardItem& parent, int row, const Values& values, ColorIcons& icons) {
   for (const int column : {kColorAColumn, kColorBColumn, kOverlapColumn}) {
-    parent.child(row, column)->setData(color, Qt::DecorationRole);
+    SetColor(*parent.child(row, column), values.color, icons);
   }
-  parent.child(row, kModeColumn)->setData(static_cast<int>(values.mode), kValueRole);
-  parent.child(row, kDimColumn)->setCheckState(values.dim == Tree::Checked ? Qt::Checked : Qt::Unchecked);
+  parent.child(row, kModeColumn)->setText(TextOf(values.mode));
+  parent.child(row, kDimColumn)->setCheckState(CheckOf(values.dim));
 }
 
-void SetBranch(QStandardItem& parent, const Values& values) {
+void SetBranch(QStandardItem& parent, const Values& values, ColorIcons& icons) {
   for (int row = 0; row < parent.rowCount(); ++row) {
-    SetBranch(*parent.child(row), values);
-    SetRow(parent, row, values);
+    SetBranch(*parent.child(row), values, icons);
+    SetRow(parent, row, values, icons);
   }
 }
 
-Contender Model(const Shape& shape) {
+Contender Model(const GroupedNets& nets) {
   struct Filled {
     QStandardItemModel model;
+    ColorIcons icons;
     bool first = true;
   };
   auto filled = std::make_shared<Filled>();
   AppendRow(*filled->model.invisibleRootItem(), QStringLiteral("net"));
   QStandardItem& root = *filled->model.item(0);
-  for (std::size_t group = 0; group < shape.groups; ++group) {
-    AppendRow(root, QStringLiteral("net"));
-    QStandardItem& parent = *root.child(static_cast<int>(group));
-    for (std::size_t leaf = 0; leaf < shape.leaves; ++leaf) AppendRow(parent, QStringLiteral("net"));
+  for (std::size_t group = 0; group < nets.groups; ++group) AppendRow(root, QStringLiteral("Group"));
+  for (std::size_t net = 0; net < nets.nets.texts.size(); ++net) {
+    AppendRow(*root.child(static_cast<int>(nets.GroupOf(net))), nets.nets.texts[net]);
   }
-  SetBranch(*filled->model.invisibleRootItem(), Values(true));
+  SetBranch(*filled->model.invisibleRootItem(), Values(true), filled->icons);
   return {"QStandardItemModel", [filled](Meter& meter) {
             filled->first = !filled->first;
-            meter.Run([&] { SetBranch(*filled->model.invisibleRootItem(), Values(filled->first)); });
+            meter.Run([&] { SetBranch(*filled->model.invisibleRootItem(), Values(filled->first), filled->icons); });
           }};
 }
 
-void SetBranch(QTreeWidgetItem& item, const Values& values) {
-  for (int row = 0; row < item.childCount(); ++row) SetBranch(*item.child(row), values);
-  const QColor color(static_cast<int>(values.color & 0xFF), 0, static_cast<int>(values.color >> 16));
+void SetBranch(QTreeWidgetItem& item, const Values& values, ColorIcons& icons) {
+  for (int row = 0; row < item.childCount(); ++row) SetBranch(*item.child(row), values, icons);
   for (const int column : {kColorAColumn, kColorBColumn, kOverlapColumn}) {
-    item.setData(column, Qt::DecorationRole, color);
+    item.setData(column, kColorRole, values.color);
+    item.setIcon(column, icons.Icon(values.color));
   }
-  item.setData(kModeColumn, kValueRole, static_cast<int>(values.mode));
-  item.setCheckState(kDimColumn, values.dim == Tree::Checked ? Qt::Checked : Qt::Unchecked);
+  item.setText(kModeColumn, TextOf(values.mode));
+  item.setCheckState(kDimColumn, CheckOf(values.dim));
 }
 
-Contender Widget(const Shape& shape) {
+Contender Widget(const GroupedNets& nets) {
   struct Filled {
     QTreeWidget widget;
+    ColorIcons icons;
     bool first = true;
   };
   auto filled = std::make_shared<Filled>();
   filled->widget.setColumnCount(kColumns);
   QTreeWidgetItem* const root = AppendItem(*filled->widget.invisibleRootItem(), QStringLiteral("net"));
-  for (std::size_t group = 0; group < shape.groups; ++group) {
-    QTreeWidgetItem* const parent = AppendItem(*root, QStringLiteral("net"));
-    for (std::size_t leaf = 0; leaf < shape.leaves; ++leaf) AppendItem(*parent, QStringLiteral("net"));
+  for (std::size_t group = 0; group < nets.groups; ++group) AppendItem(*root, QStringLiteral("Group"));
+  for (std::size_t net = 0; net < nets.nets.texts.size(); ++net) {
+    AppendItem(*root->child(static_cast<int>(nets.GroupOf(net))), nets.nets.texts[net]);
   }
-  SetBranch(*root, Values(true));
+  SetBranch(*root, Values(true), filled->icons);
   return {"QTreeWidget", [filled, root](Meter& meter) {
             filled->first = !filled->first;
-            meter.Run([&] { SetBranch(*root, Values(filled->first)); });
+            meter.Run([&] { SetBranch(*root, Values(filled->first), filled->icons); });
           }};
 }
 
-Contender FloorByName(const Shape& shape) {
-  auto nodes = std::make_shared<NamedNodes<Values>>();
-  for (const auto& record : ColorRecords(shape, [](std::size_t) { return kRed; })) {
-    std::string parent;
-    std::wstring label;
-    Tree::NodeInfoToNames(record, parent, label);
-    nodes->Add(record.name, parent, Values(true));
-  }
+Contender FloorByName(const GroupedNets& nets) {
+  const auto nodes = std::make_shared<NamedNodes<Values>>(nets, [](std::size_t) { return Values(true); });
   return {"by name", [nodes](Meter& meter) {
             const Values next(nodes->At("root").mode != ShowMode::Both);
             meter.Run([&] { nodes->SetBranch("root", next); });
@@ -147,9 +140,9 @@ Contender FloorByName(const Shape& shape) {
 }  // namespace
 
 Figures MeasureCompareValues(const Settings& settings) {
-  const Shape shape = Shape::OfNodes(settings.Size(100'000));
-  const auto outcomes = Race({Ours(shape), Model(shape), FloorByName(shape), Widget(shape)}, shape.Nodes());
-  const std::string workload = "five compare values at the root of " + Grouped(shape.Nodes()) + " nodes, per node";
+  const GroupedNets nets = GroupedNets::OfNodes(settings.Size(100'000));
+  const auto outcomes = Race({Ours(nets), Model(nets), FloorByName(nets), Widget(nets)}, nets.Nodes());
+  const std::string workload = "five compare values at the root of " + Grouped(nets.Nodes()) + " nodes, per node";
   return {AgainstPeer(WithOther(WithFloor(FigureOf(6, workload, outcomes), outcomes[2]), outcomes[3]), 0.5)};
 }
 

@@ -20,33 +20,28 @@ constexpr int kRepetitions = 11;
 /// Neighbouring groups differ: above them the tree is mixed.
 unsigned int ColorOfGroup(std::size_t group) { return static_cast<unsigned int>(group % 16) << 4; }
 
-struct Leaf {
-  std::size_t group;
-  std::size_t leaf;
-};
-
-/// Leaves all over the tree, the same ones each time.
-std::vector<Leaf> Leaves(const Shape& shape) {
-  std::vector<Leaf> leaves;
+/// Nets all over the tree, the same ones each time.
+std::vector<std::size_t> ChangingNets(const GroupedNets& nets) {
+  std::vector<std::size_t> chosen;
   std::uint64_t state = 1;
-  const auto next = [&](std::size_t choices) {
+  for (std::size_t change = 0; change < kChanges; ++change) {
     state = state * 6364136223846793005u + 1442695040888963407u;
-    return static_cast<std::size_t>((state >> 33) % choices);
-  };
-  for (std::size_t change = 0; change < kChanges; ++change) leaves.push_back({next(shape.groups), next(shape.leaves)});
-  return leaves;
+    chosen.push_back(static_cast<std::size_t>((state >> 33) % nets.nets.names.size()));
+  }
+  return chosen;
 }
 
-Contender Ours(const Shape& shape) {
+Contender Ours(const GroupedNets& nets) {
   auto tree = std::make_shared<Staged<ColorTree>>();
-  tree->AddNodes(ColorRecords(shape, ColorOfGroup));
+  using Info = ColorTree::ColorNodeInfo;
+  tree->AddNodes(RecordsOf<Info>(nets, [](Info& record, std::size_t group) { record.color = ColorOfGroup(group); }));
   struct Change {
     std::string name;
     unsigned int color;
   };
   std::vector<Change> changes;
-  for (const Leaf& leaf : Leaves(shape)) {
-    changes.push_back({LeafName(leaf.group, leaf.leaf), ColorOfGroup(leaf.group)});
+  for (const std::size_t net : ChangingNets(nets)) {
+    changes.push_back({nets.nets.names[net], ColorOfGroup(nets.GroupOf(net))});
   }
   return {"ChangeNodeColor", [tree, changes](Meter& meter) {
             ColorTree& colors = *tree;
@@ -59,23 +54,20 @@ Contender Ours(const Shape& shape) {
           }};
 }
 
-Contender Model(const Shape& shape) {
+Contender Model(const GroupedNets& nets) {
   struct Filled {
     QStandardItemModel model;
     ColorIcons icons;
   };
   auto filled = std::make_shared<Filled>();
-  QStandardItem* const root = AppendItem(*filled->model.invisibleRootItem(), QStringLiteral("net"));
-  AddItems(*root, shape, filled->icons, ColorOfGroup);
-  SumUpColors(root, filled->icons);
+  const GroupedItems items(*filled->model.invisibleRootItem(), nets, filled->icons, ColorOfGroup);
   struct Change {
     QStandardItem* item;
     unsigned int color;
   };
   std::vector<Change> changes;
-  for (const Leaf& leaf : Leaves(shape)) {
-    changes.push_back(
-        {root->child(static_cast<int>(leaf.group))->child(static_cast<int>(leaf.leaf)), ColorOfGroup(leaf.group)});
+  for (const std::size_t net : ChangingNets(nets)) {
+    changes.push_back({items.nets[net], ColorOfGroup(nets.GroupOf(net))});
   }
   return {"QStandardItemModel", [filled, changes](Meter& meter) {
             const auto give = [&](QStandardItem* item, unsigned int color) {
@@ -92,7 +84,7 @@ Contender Model(const Shape& shape) {
 }
 
 /// The widget's own summary, of check boxes.
-Contender Widget(const Shape& shape) {
+Contender Widget(const GroupedNets& nets) {
   auto widget = std::make_shared<QTreeWidget>();
   const auto append = [](QTreeWidgetItem& parent) {
     QTreeWidgetItem* const item = AppendItem(parent, QStringLiteral("net"));
@@ -101,16 +93,15 @@ Contender Widget(const Shape& shape) {
     return item;
   };
   QTreeWidgetItem* const root = append(*widget->invisibleRootItem());
-  for (std::size_t group = 0; group < shape.groups; ++group) {
-    QTreeWidgetItem* const parent = append(*root);
-    for (std::size_t leaf = 0; leaf < shape.leaves; ++leaf) {
-      append(*parent)->setCheckState(0, group % 2 == 0 ? Qt::Checked : Qt::Unchecked);
-    }
+  for (std::size_t group = 0; group < nets.groups; ++group) append(*root);
+  std::vector<QTreeWidgetItem*> items;
+  for (std::size_t net = 0; net < nets.nets.names.size(); ++net) {
+    const std::size_t group = nets.GroupOf(net);
+    items.push_back(append(*root->child(static_cast<int>(group))));
+    items.back()->setCheckState(0, group % 2 == 0 ? Qt::Checked : Qt::Unchecked);
   }
   std::vector<QTreeWidgetItem*> leaves;
-  for (const Leaf& leaf : Leaves(shape)) {
-    leaves.push_back(root->child(static_cast<int>(leaf.group))->child(static_cast<int>(leaf.leaf)));
-  }
+  for (const std::size_t net : ChangingNets(nets)) leaves.push_back(items[net]);
   return {"auto-tristate QTreeWidget", [widget, root, leaves](Meter& meter) {
             meter.Run([&] {
               for (QTreeWidgetItem* leaf : leaves) {
@@ -137,24 +128,24 @@ void SumUp(NamedNodes<unsigned int>& nodes, const std::string& name) {
   nodes.At(name) = summary;
 }
 
-Contender FloorByName(const Shape& shape) {
-  auto nodes = std::make_shared<NamedNodes<unsigned int>>();
-  for (const auto& record : ColorRecords(shape, ColorOfGroup)) {
-    std::string parent;
-    std::wstring label;
-    oxecad_ui::Tree::NodeInfoToNames(record, parent, label);
-    nodes->Add(record.name, parent, record.color);
+Contender FloorByName(const GroupedNets& nets) {
+  const auto nodes = std::make_shared<NamedNodes<unsigned int>>(nets, ColorOfGroup);
+  struct Change {
+    std::string name;
+    std::string group;
+    unsigned int color;
+  };
+  std::vector<Change> changes;
+  for (const std::size_t net : ChangingNets(nets)) {
+    const std::size_t group = nets.GroupOf(net);
+    changes.push_back({nets.nets.names[net], GroupName(group), ColorOfGroup(group)});
   }
-  return {"by name", [nodes, leaves = Leaves(shape)](Meter& meter) {
-            std::vector<std::pair<std::string, std::string>> names;
-            for (const Leaf& leaf : leaves) {
-              names.emplace_back(LeafName(leaf.group, leaf.leaf), GroupName(leaf.group));
-            }
+  return {"by name", [nodes, changes](Meter& meter) {
             meter.Run([&] {
-              for (std::size_t change = 0; change < names.size(); ++change) {
-                for (const unsigned int color : {kNew, ColorOfGroup(leaves[change].group)}) {
-                  nodes->At(names[change].first) = color;
-                  SumUp(*nodes, names[change].second);
+              for (const Change& change : changes) {
+                for (const unsigned int color : {kNew, change.color}) {
+                  nodes->At(change.name) = color;
+                  SumUp(*nodes, change.group);
                   SumUp(*nodes, "root");
                 }
               }
@@ -165,9 +156,9 @@ Contender FloorByName(const Shape& shape) {
 }  // namespace
 
 Figures MeasureLeafChange(const Settings& settings) {
-  const Shape shape = Shape::OfNodes(settings.Size(100'000));
-  const auto outcomes = Race({Ours(shape), Model(shape), FloorByName(shape), Widget(shape)}, kOperations, kRepetitions);
-  const std::string workload = "one leaf's colour changes below " + Grouped(shape.Nodes()) + " nodes";
+  const GroupedNets nets = GroupedNets::OfNodes(settings.Size(100'000));
+  const auto outcomes = Race({Ours(nets), Model(nets), FloorByName(nets), Widget(nets)}, kOperations, kRepetitions);
+  const std::string workload = "one leaf's colour changes below " + Grouped(nets.Nodes()) + " nodes";
   return {AgainstPeer(WithOther(WithFloor(FigureOf(7, workload, outcomes), outcomes[2]), outcomes[3]), 1.4)};
 }
 

@@ -80,7 +80,7 @@ template <class Info>
 std::vector<Info> LoadRecords(const Nets& nets, std::size_t parents) {
   std::vector<Info> records(nets.names.size());
   for (std::size_t net = 0; net < records.size(); ++net) {
-    records[net].name = LeafName(net % parents, net);
+    records[net].name = GroupName(net % parents).append("/").append(nets.names[net]);
     records[net].label = nets.labels[net];
   }
   return records;
