@@ -139,7 +139,7 @@ void ReadFootprint(ItemContext& context) {
   Component& component = parts.component;
   if (component.reference.empty()) component.reference = std::move(parts.propertyReference);
   if (component.value.empty()) component.value = std::move(parts.propertyValue);
-  if (parts.layer != kNoLayer && parts.layer == context.Layers().BackCopper()) component.side = Side::Back;
+  if (parts.layer != kNoLayer && context.Layers().IsBackCopper(parts.layer)) component.side = Side::Back;
   // Only now is it certain where the component lies: its place may follow its pads.
   const Placement placement(component.position, component.rotation);
   bool inRange = true;

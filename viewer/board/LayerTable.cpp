@@ -14,6 +14,13 @@ bool EndsWith(std::string_view text, std::string_view end) {
   return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
 }
 
+bool IsCanonicalCopper(std::string_view name) {
+  if (name == kFrontCopper || name == kBackCopper) return true;
+  if (name.substr(0, 2) != "In" || !EndsWith(name, kCopperSuffix)) return false;
+  const std::string_view number = name.substr(2, name.size() - 2 - kCopperSuffix.size());
+  return !number.empty() && number.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
 bool SameLine(const Layer& a, const Layer& b) {
   return a.name == b.name && a.userName == b.userName && a.type == b.type;
 }
@@ -54,16 +61,19 @@ LayerId LayerTable::Add(Layer layer) {
 // also known by being the first and the last. A single one is the front.
 LayerId LayerTable::OuterCopper(bool front) {
   const std::string_view name = front ? kFrontCopper : kBackCopper;
-  const std::string_view opposite = front ? kBackCopper : kFrontCopper;
   LayerId outer = kNoLayer;
   for (std::size_t i = 0; i < layers_.size(); ++i) {
     const Layer& layer = layers_[i];
-    if (!layer.declared || !layer.copper || layer.name == opposite) continue;
+    if (!layer.declared || !layer.copper) continue;
     if (layer.name == name) return static_cast<LayerId>(i);
-    if (outer == kNoLayer || !front) outer = static_cast<LayerId>(i);
+    if (!IsCanonicalCopper(layer.name) && (outer == kNoLayer || !front)) outer = static_cast<LayerId>(i);
   }
   if (!front && outer != kNoLayer && outer == FrontCopper()) outer = kNoLayer;
   return outer == kNoLayer ? Find(name) : outer;
+}
+
+bool LayerTable::IsBackCopper(LayerId id) {
+  return id >= 0 && (layers_[static_cast<std::size_t>(id)].name == kBackCopper || id == BackCopper());
 }
 
 bool LayerTable::Expand(std::string_view name, LayerSet& layers) {

@@ -31,6 +31,8 @@ class LayerTable {
   /// The outer copper layers, whatever their names; they exist as undeclared ones if the board has none.
   LayerId FrontCopper() { return OuterCopper(true); }
   LayerId BackCopper() { return OuterCopper(false); }
+  /// Whether what lies on that layer lies on the back.
+  bool IsBackCopper(LayerId id);
 
   bool IsCopper(LayerId id) const { return id >= 0 && layers_[static_cast<std::size_t>(id)].copper; }
   std::vector<Layer> Take() { return std::move(layers_); }

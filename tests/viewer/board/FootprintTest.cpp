@@ -78,6 +78,17 @@ TEST(Component, OnTheOnlyCopperLayerIsInFrontUnlessThatIsTheBack) {
   EXPECT_EQ(sides("F.Cu"), "FBF F.Cu B.Cu");
   EXPECT_EQ(sides("B.Cu"), "BBF F.Cu B.Cu");
   EXPECT_EQ(sides("Copper"), "FBF Copper B.Cu");
+  EXPECT_EQ(sides("In1.Cu"), "FBF F.Cu B.Cu");
+}
+
+TEST(Component, OnTheBackIsThereThoughTheTableHasOnlyTheOtherCopper) {
+  const Board board = Read(BoardText(R"(
+    (module A (layer B.Cu)) (layers (0 F.Cu signal) (1 In1.Cu signal) (2 In2.Cu signal))
+    (module B (layer B.Cu)) (module C (layer In2.Cu)) (module D (layer F.Cu)))"));
+  EXPECT_EQ(board.components.at(0).side, Side::Back);
+  EXPECT_EQ(board.components.at(1).side, Side::Back);
+  EXPECT_EQ(board.components.at(2).side, Side::Front);
+  EXPECT_EQ(board.components.at(3).side, Side::Front);
 }
 
 // Seen on the screen, 90 degrees turn what is right of the origin to above it: y runs down.
