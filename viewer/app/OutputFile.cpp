@@ -70,12 +70,24 @@ int WriteInPlace(const std::string& path, const std::string& text, int flags) {
   return fd < 0 ? errno : WriteAndClose(fd, text, false);
 }
 
-// The new content under a name of its own, which then takes the place of the old one. Where the folder takes no further
-// file there is only the old one to write into.
+// A new file for the content before it takes the place of the old one; one that is there already belongs to somebody
+// else, or was left by a run that was ended in the middle. -1 when it cannot be made.
+int OpenBeside(const std::string& folder, mode_t mode, std::string& name) {
+  constexpr int kMostTries = 100;
+  const std::string stem = folder + ".oxviewer-" + std::to_string(::getpid());
+  int fd = -1;
+  for (int i = 0; i < kMostTries && fd < 0 && (i == 0 || errno == EEXIST); ++i) {
+    name = stem + '-' + std::to_string(i);
+    fd = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+  }
+  return fd;
+}
+
+// Where the folder takes no further file there is only the old one to write into.
 int WriteBeside(const std::string& path, const std::string& text, bool exists, mode_t mode) {
   const std::string folder = path.substr(0, path.rfind('/') + 1);  // npos + 1 is 0
-  const std::string besides = folder + ".oxviewer-" + std::to_string(::getpid());
-  const int fd = ::open(besides.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+  std::string besides;
+  const int fd = OpenBeside(folder, mode, besides);
   if (fd < 0 && exists && (errno == EACCES || errno == EPERM)) return WriteInPlace(path, text, O_TRUNC);
   if (fd < 0) return errno;
   int error = WriteAndClose(fd, text, true);

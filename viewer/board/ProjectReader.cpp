@@ -248,9 +248,15 @@ bool ClassCollector::string(std::string& value) {
   return true;
 }
 
-bool ClassCollector::parse_error(std::size_t, const std::string& lastToken, const nlohmann::detail::exception&) {
+// The parser counts the end of the text as one more character.
+bool ClassCollector::parse_error(std::size_t position, const std::string& lastToken,
+                                 const nlohmann::detail::exception&) {
   constexpr std::size_t kMostBytes = 40;
-  if (lastToken.empty()) return Fail("expected JSON, found the end of the file");
+  const auto reached = static_cast<std::size_t>(*reached_ - begin_);
+  if (position > reached) {
+    error = {reached, "expected JSON, found the end of the file"};
+    return false;
+  }
   return Fail("expected JSON, found \"" + lastToken.substr(0, kMostBytes) + '"');
 }
 

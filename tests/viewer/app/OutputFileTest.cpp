@@ -78,6 +78,14 @@ TEST(OutputFile, InAFolderThatTakesNoFurtherOneIsWrittenInto) {
   EXPECT_EQ(refused->ToLine(), folder.PathOf("other.json") + ": expected a writable file: permission denied");
 }
 
+TEST(OutputFile, IsNotStoppedByWhatAnEndedRunHasLeft) {
+  const TemporaryFolder folder;
+  const std::string left = folder.Write(".oxviewer-" + std::to_string(::getpid()) + "-0", "half of");
+  EXPECT_FALSE(WriteFile(folder.PathOf("report.json"), "x"));
+  EXPECT_EQ(ContentOf(folder.PathOf("report.json")), "x");
+  EXPECT_EQ(ContentOf(left), "half of");
+}
+
 TEST(OutputFile, MayBeADevice) {
   EXPECT_FALSE(WriteFile("/dev/null", "x"));
   EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));

@@ -87,6 +87,10 @@ TEST(NetClasses, UnsetSettingsAndOtherSectionsDoNotMatter) {
 TEST(NetClasses, OfADamagedProjectAreRefusedWithTheirPlace) {
   EXPECT_EQ(Applied(""), "test.kicad_pro:1:1: expected JSON, found the end of the file");
   EXPECT_EQ(Applied("{\n  \"net_settings\": }"), "test.kicad_pro:2:19: expected JSON, found \"\"net_settings\": }\"");
+  for (const char* cut : {"{\"a\": ", "{\"a\":12", "{\"a\":tr", "{\"a\": \"", "{\"a\":[{}"}) {
+    EXPECT_EQ(Applied(cut), "test.kicad_pro:1:" + std::to_string(std::string(cut).size() + 1) +
+                                ": expected JSON, found the end of the file");
+  }
   EXPECT_EQ(Applied("[]"), "test.kicad_pro:1:1: expected an object, found an array");
   EXPECT_EQ(Applied("7"), "test.kicad_pro:1:1: expected an object, found a number");
   EXPECT_EQ(Applied("null"), "test.kicad_pro:1:4: expected an object, found null");
