@@ -54,8 +54,8 @@ std::string TimeText(double nanoseconds) {
 
 Curves MeasureCurves(bool quick) {
   Curves curves;
-  curves.sizes =
-      quick ? std::vector<std::size_t>{1'000, 10'000} : std::vector<std::size_t>{1'000, 10'000, 100'000, 1'000'000};
+  curves.sizes = quick ? std::vector<std::size_t>{1'000, 10'000, 100'000}
+                       : std::vector<std::size_t>{1'000, 10'000, 100'000, 1'000'000};
   for (const Family& family : Families()) {
     CurveFamily& measured = curves.families.emplace_back();
     measured.name = family.name;

@@ -31,7 +31,38 @@ ordered_json ObjectOf(const Figure& figure) {
   return object;
 }
 
+std::optional<double> NumberIn(const ordered_json& value) {
+  return value.is_null() ? std::nullopt : std::optional(value.get<double>());
+}
+
+Figure FigureIn(const ordered_json& object) {
+  Figure figure;
+  figure.row = object.at("row").get<int>();
+  figure.workload = object.at("workload").get<std::string>();
+  figure.unit = object.at("unit").get<std::string>();
+  figure.ours = object.at("ours").get<double>();
+  figure.peer = NumberIn(object.at("peer"));
+  figure.peer_name = object.at("peer_name").get<std::string>();
+  figure.floor = NumberIn(object.at("floor"));
+  figure.floor_name = object.at("floor_name").get<std::string>();
+  figure.ratio = object.at("ratio").get<double>();
+  figure.goal = object.at("goal").get<double>();
+  figure.goal_text = object.at("goal_text").get<std::string>();
+  figure.calls = NumberIn(object.at("calls"));
+  figure.allocations = NumberIn(object.at("allocations"));
+  for (const auto& [name, value] : object.at("other_peers").items()) {
+    figure.others.push_back({name, value.get<double>()});
+  }
+  return figure;
+}
+
 }  // namespace
+
+Figures FiguresIn(const std::string& json) {
+  Figures figures;
+  for (const ordered_json& object : ordered_json::parse(json)) figures.push_back(FigureIn(object));
+  return figures;
+}
 
 std::string JsonOf(const Figures& figures) {
   ordered_json array = ordered_json::array();

@@ -3,6 +3,7 @@
 #include <time.h>
 
 #include <algorithm>
+#include <stdexcept>
 
 #include "bench/CallCounter.h"
 
@@ -23,6 +24,10 @@ void Meter::Count(const std::function<void()>& work) {
   }
   allocations_ += AllocationCount() - before;
   calls_ += counter.Count();
+}
+
+void Check(bool holds, const char* fact) {
+  if (!holds) throw std::logic_error(std::string("expected: ") + fact);
 }
 
 double Median(std::vector<double> values) {

@@ -82,6 +82,9 @@ void Keep(const T& value) {
   asm volatile("" : : "g"(&value) : "memory");
 }
 
+/// Throws std::logic_error, which tells the fact, when something is not as the work should have left it.
+void Check(bool holds, const char* fact);
+
 /// The memory that the program has asked for so far, in blocks.
 std::uint64_t AllocationCount();
 

@@ -29,6 +29,8 @@ GroupedNets::GroupedNets(std::size_t groupCount, std::size_t leaves) : groups(gr
   }
 }
 
+std::size_t NodesOnStage() { return uiox::Suite::Get().FindDevice("bench")->FindTree("tree")->Store().Size(); }
+
 void SetStage() {
   uiox::Suite::Get().Reset();
   uiox::Suite::Get().ObtainTree("bench", "tree", {"a", "b", "overlap", "showMode", "dimOverlap"});

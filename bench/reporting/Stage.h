@@ -48,6 +48,9 @@ struct GroupedNets {
   Nets nets;
 };
 
+/// The number of nodes of the tree on the stage.
+std::size_t NodesOnStage();
+
 /// A suite with the tree "tree" of the device "bench" and nothing else.
 void SetStage();
 

@@ -1,4 +1,7 @@
 // Measures what people would use instead and this project's own, in turn, and prints the table.
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <QApplication>
 
 #include <algorithm>
@@ -61,6 +64,36 @@ std::string NamesOf(const std::vector<int>& rows) {
   return names;
 }
 
+void MeasureInChild(const RowMeasurement& rows, const Settings& settings, const std::string& file) {
+  int argc = 1;
+  char name[] = "bench_report";
+  char* argv[] = {name, nullptr};
+  qInstallMessageHandler(&TakeMessage);
+  const QApplication application(argc, argv);
+  WriteText(file, JsonOf(rows.measure(settings)));
+}
+
+/// Measures in a process of its own: what other rows left of the memory would be a part of the figures.
+Figures Measure(const RowMeasurement& rows, const Settings& settings) {
+  const std::string file = settings.folder + "/figures.json";
+  const pid_t child = ::fork();
+  if (child < 0) throw std::runtime_error("no process can be started");
+  if (child == 0) {
+    try {
+      MeasureInChild(rows, settings, file);
+    } catch (const std::exception& error) {
+      Say(std::string(error.what()) + '\n');
+      std::_Exit(kFailure);
+    }
+    std::_Exit(0);
+  }
+  int status = 0;
+  if (::waitpid(child, &status, 0) != child || status != 0) {
+    throw std::runtime_error("row " + NamesOf(rows.rows) + " could not be measured");
+  }
+  return FiguresIn(ReadText(file));
+}
+
 Figures MeasureRows(const Options& options, const Settings& settings) {
   Figures figures;
   for (const RowMeasurement& each : AllRows()) {
@@ -68,7 +101,7 @@ Figures MeasureRows(const Options& options, const Settings& settings) {
                                                             [&](int row) { return options.rows.count(row) != 0; });
     if (!wanted) continue;
     Say("Measuring row " + NamesOf(each.rows) + " ...\n");
-    for (Figure& figure : each.measure(settings)) {
+    for (Figure& figure : Measure(each, settings)) {
       if (options.rows.empty() || options.rows.count(figure.row) != 0) figures.push_back(std::move(figure));
     }
   }
@@ -91,6 +124,7 @@ int Report(const Options& options, const std::string& program) {
   const Settings settings{options.quick, program, folder.Path()};
   const Figures figures = MeasureRows(options, settings);
   std::fputs(TableOf(figures).c_str(), stdout);
+  std::fflush(stdout);
   if (!options.json.empty()) WriteText(options.json, JsonOf(figures));
   if (!options.page.empty()) WritePage(options, figures);
   return 0;
@@ -108,8 +142,6 @@ int main(int argc, char** argv) {
       return kWrongArguments;
     }
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler(&TakeMessage);
-    QApplication application(argc, argv);
     return Report(std::get<Options>(parsed), "/proc/self/exe");
   } catch (const std::exception& error) {
     Say(std::string(error.what()) + '\n');

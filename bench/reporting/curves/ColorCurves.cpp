@@ -31,6 +31,7 @@ struct Colors {
   void Fill() {
     Empty();
     tree.AddNodes(records);
+    Check(NodesOnStage() == 1 + records.size(), "all nodes were added");
   }
   /// The other one of two colours.
   unsigned int Turn() { return color ^= kRed ^ kBlue; }

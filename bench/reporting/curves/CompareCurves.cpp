@@ -1,5 +1,6 @@
 // Operations of compare trees with all nodes below one parent.
 #include "bench/reporting/Curves.h"
+#include "bench/reporting/Measure.h"
 #include "bench/reporting/Stage.h"
 
 namespace oxecad_bench {
@@ -28,6 +29,7 @@ struct Compared {
     Fill();
   }
   void Empty() {
+    tree.reset();  // leaves the stage before the next one comes
     tree = std::make_unique<Staged<CompareColorTree>>();
     tree->Append("root", "");
     tree->AddNode(RecordOf("top"));
@@ -35,6 +37,7 @@ struct Compared {
   void Fill() {
     Empty();
     tree->AddNodes(records);
+    Check(NodesOnStage() == 2 + records.size(), "all nodes were added");
   }
   void Change(const char* node) {
     color ^= kRed ^ kBlue;

@@ -31,6 +31,7 @@ struct SortedNets {
       nodes[net].type = "net";
     }
     into.AddEcadNodes(nodes, Tree::ByLabel);
+    Check(NodesOnStage() == 1 + nets.names.size(), "all nets were added");
   }
   /// A net somewhere in the tree, another one each time.
   const char* Next() {

@@ -2,6 +2,7 @@
 #include <uicomps/userdata/UserDataTree.h>
 
 #include "bench/reporting/Curves.h"
+#include "bench/reporting/Measure.h"
 #include "bench/reporting/Stage.h"
 
 namespace oxecad_bench {
@@ -26,6 +27,7 @@ struct Data {
     }
     Empty();
     tree.AddNodes(records);
+    Check(NodesOnStage() == 2 + records.size(), "all nodes were added");
   }
   void Empty() {
     tree.Clear();

@@ -24,8 +24,9 @@ Contender Ours(const GroupedNets& nets) {
   auto filled = std::make_shared<Filled>();
   filled->tree.AddNodes(RecordsOf<ColorTree::ColorNodeInfo>(
       nets, [](ColorTree::ColorNodeInfo& record, std::size_t) { record.color = kRed; }));
-  return {"ChangeNodeColor", [filled](Meter& meter) {
+  return {"ChangeNodeColor", [filled, last = nets.nets.names.back()](Meter& meter) {
             meter.Run([&] { filled->tree.ChangeNodeColor("root", filled->color = Other(filled->color)); });
+            Check(filled->tree.GetNodeColor(last.c_str()) == filled->color, "the last leaf has the new colour");
           }};
 }
 

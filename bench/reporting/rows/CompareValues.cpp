@@ -41,6 +41,7 @@ Contender Ours(const GroupedNets& nets) {
   });
   auto filled = std::make_shared<Filled>();
   filled->tree.AddNodes(records);
+  Check(NodesOnStage() == nets.Nodes(), "all nodes were added");
   return {"ChangeNodeInfo", [filled](Meter& meter) {
             filled->first = !filled->first;
             const Values next(filled->first);

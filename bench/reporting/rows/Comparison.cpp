@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <memory>
-#include <stdexcept>
 
 #include "bench/reporting/Peers.h"
 #include "bench/reporting/Rows.h"
@@ -83,10 +82,9 @@ void CheckFloor(const CComparator<std::wstring>& comparator, const std::vector<s
   for (std::size_t index = 1; index < labels.size(); ++index) {
     const std::wstring& a = labels[index - 1];
     const std::wstring& b = labels[index];
-    if (comparator.Compare(a, b) != IsBefore(a.c_str(), b.c_str()) ||
-        comparator.Compare(b, a) != IsBefore(b.c_str(), a.c_str())) {
-      throw std::logic_error("the hand-written comparison has another order than the comparator");
-    }
+    Check(comparator.Compare(a, b) == IsBefore(a.c_str(), b.c_str()) &&
+              comparator.Compare(b, a) == IsBefore(b.c_str(), a.c_str()),
+          "the hand-written comparison has the comparator's order");
   }
 }
 

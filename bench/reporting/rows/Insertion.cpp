@@ -23,6 +23,7 @@ Contender Ours(const Nets& nets, std::size_t parents) {
                                  Tree::ByLabel, "net", L"", 1, 0, 0, nullptr);
               }
             });
+            Check(NodesOnStage() == 1 + parents + nets.names.size(), "all nets were added");
           }};
 }
 

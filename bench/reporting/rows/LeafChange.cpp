@@ -35,6 +35,7 @@ Contender Ours(const GroupedNets& nets) {
   auto tree = std::make_shared<Staged<ColorTree>>();
   using Info = ColorTree::ColorNodeInfo;
   tree->AddNodes(RecordsOf<Info>(nets, [](Info& record, std::size_t group) { record.color = ColorOfGroup(group); }));
+  Check(NodesOnStage() == nets.Nodes() && tree->GetNodeColor("root") == kMixed, "all nodes were added and summed up");
   struct Change {
     std::string name;
     unsigned int color;

@@ -41,6 +41,7 @@ Contender LoadNets(const Nets& nets, std::size_t parents) {
               }
               tree.AddEcadNodes(nodes, Tree::ByLabel);
             });
+            Check(NodesOnStage() == 1 + parents + nets.names.size(), "all nets were added");
           }};
 }
 
@@ -96,6 +97,8 @@ Contender LoadColors(const Nets& nets, std::size_t parents) {
             tree.Append("root", "");
             for (std::size_t group = 0; group < parents; ++group) tree.Append(GroupName(group), "root");
             meter.Run([&] { tree.AddNodes(records); });
+            Check(NodesOnStage() == 1 + parents + records.size(), "all nets were added");
+            Check(tree.GetNodeColor(GroupName(0).c_str()) == ColorOfParent(0), "parents are summed up");
           }};
 }
 
@@ -142,6 +145,7 @@ Contender LoadCompared(const Nets& nets, std::size_t parents) {
               tree.Append(GroupName(group), "root", CompareColorTree::s_compareType);
             }
             meter.Run([&] { tree.AddNodes(records); });
+            Check(NodesOnStage() == 1 + parents + records.size(), "all nets were added");
           }};
 }
 

@@ -19,6 +19,7 @@ Contender Ours(const Nets& nets) {
                 tree.AddNode(nets.names[net].c_str(), nets.labels[net].c_str(), "root", kRed, 0, L"", 1, 0);
               }
             });
+            Check(NodesOnStage() == 1 + nets.names.size() && tree.GetNodeColor("root") == kRed, "all nets were added");
           }};
 }
 
@@ -55,7 +56,7 @@ Contender Counters(const Nets& nets) {
 }  // namespace
 
 Figures MeasureSiblings(const Settings& settings) {
-  const std::size_t count = settings.quick ? 3'000 : 10'000;
+  const std::size_t count = settings.Size(10'000);
   const Nets nets(count);
   const auto outcomes = Race({Ours(nets), Model(nets), Counters(nets)}, count);
   const std::string workload = "ColorTree::AddNode one by one, " + Grouped(count) + " siblings of one colour";

@@ -3,7 +3,6 @@
 #include <uicomps/tree/OrderKey.h>
 
 #include <algorithm>
-#include <stdexcept>
 
 #include "bench/reporting/Numbers.h"
 #include "bench/reporting/Peers.h"
@@ -104,7 +103,7 @@ Contender Ours(const Records& records) {
             const bool sorted = std::is_sorted(
                 copy.begin(), copy.end(),
                 [&](const Tree::NodeInfo& a, const Tree::NodeInfo& b) { return order.Compare(a.label, b.label); });
-            if (!sorted) throw std::logic_error("the records are not in the comparator's order");
+            Check(sorted, "the records are in the comparator's order");
           }};
 }
 
