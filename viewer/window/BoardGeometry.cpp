@@ -18,6 +18,9 @@ LayerRank RankOf(const Layer& layer) {
   return layer.name.starts_with("F.") ? LayerRank::InFront : LayerRank::Notes;
 }
 
+// A line cannot be narrower than a hair, whatever its file says.
+double LineWidth(Nm width) { return std::max<Nm>(width, 0) * kMillimetresPerNm; }
+
 QRectF BoxOf(const LineItem& item) {
   const double reach = item.width / 2;
   return QRectF(item.line.p1(), item.line.p2()).normalized().adjusted(-reach, -reach, reach, reach);
@@ -99,7 +102,7 @@ class Maker {
         path.addPolygon(QPolygonF(QList<QPointF>(points.begin(), points.end())));
         AddArea(*layer, std::move(path), origin);
       }
-      if (!drawing.filled || drawing.width > 0) AddLines(*layer, points, drawing.width * kMillimetresPerNm, origin);
+      if (!drawing.filled || drawing.width > 0) AddLines(*layer, points, LineWidth(drawing.width), origin);
     }
   }
 
@@ -109,7 +112,7 @@ class Maker {
       LayerGeometry* layer = LayerOf(track.layer);
       if (!layer) continue;
       const ItemOrigin origin{ItemKind::Track, static_cast<std::uint32_t>(i), track.net, kNoComponent};
-      const double width = track.width * kMillimetresPerNm;
+      const double width = LineWidth(track.width);
       if (track.arc) {
         AddLines(*layer, ArcPoints(track.start, track.mid, track.end), width, origin);
       } else {

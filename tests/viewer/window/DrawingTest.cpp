@@ -197,6 +197,19 @@ RC_GTEST_PROP(Viewport, PlaceAndPixelBelongTogether, (int x, int y, bool fromBac
 
 // --- Pictures --------------------------------------------------------------------------------------------------------
 
+TEST(BoardGeometry, LinesOfLessThanNoWidthAreHairs) {
+  const auto geometry = BoardGeometry::Make(SmallBoard(R"(
+    (segment (start 0 0) (end 0 0) (width -500) (layer "F.Cu"))
+    (arc (start 0 0) (mid 1 1) (end 2 0) (width -3) (layer "F.Cu"))
+    (gr_line (start 0 0) (end 1 0) (width -5) (layer "F.Cu")))"));
+  const LayerGeometry& layer = geometry->layers.front();
+  ASSERT_GT(layer.lines.size(), 3u);
+  for (const LineItem& line : layer.lines) EXPECT_EQ(line.width, 0);
+  std::vector<std::uint32_t> found;
+  layer.grid.Find(QRectF(-1, -1, 4, 4), found);
+  EXPECT_EQ(found.size(), layer.lines.size());
+}
+
 TEST(FrameRenderer, DeliversTheLatestScene) {
   const auto geometry = BoardGeometry::Make(SmallBoard(""));
   BoardStyle style;
