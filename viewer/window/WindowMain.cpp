@@ -95,6 +95,10 @@ int RunWindow(const Options& options, const LoadedBoards& boards) {
   char* argv[] = {name, nullptr};
   if (options.screenshot) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // These fit the window to the user's screen, which has no part in the picture.
+    for (const char* scale : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_FONT_DPI", "QT_USE_PHYSICAL_DPI"}) {
+      qunsetenv(scale);
+    }
     const QImage picture = Picture(boards, options.size, argc, argv);
     return WritePicture(*options.screenshot, picture);
   }

@@ -111,7 +111,10 @@ TEST_F(ProgramTest, PictureIsTheSameEachTime) {
   const std::string first = folder_.PathOf("1.png");
   const std::string second = folder_.PathOf("2.png");
   ASSERT_EQ(RunViewer({board_, "--screenshot", first}).status, 0);
-  ASSERT_EQ(RunViewer({board_, "--screenshot", second}, {"TZ=Asia/Tokyo", "LANG=de_DE.UTF-8"}).status, 0);
+  ASSERT_EQ(RunViewer({board_, "--screenshot", second},
+                      {"TZ=Asia/Tokyo", "LANG=de_DE.UTF-8", "QT_SCALE_FACTOR=2", "QT_FONT_DPI=200"})
+                .status,
+            0);
   EXPECT_EQ(ContentOf(first), ContentOf(second));
 }
 
