@@ -1,10 +1,10 @@
 #include <uiox/StrictMode.h>
 #include <uiox/detail/LayoutRun.h>
 #include <uiox/detail/ResourceLoader.h>
+#include <uiox/detail/ShortText.h>
 #include <uiox/detail/SuiteState.h>
 
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 namespace uiox {
@@ -30,8 +30,7 @@ Widget* Suite::Find(std::string_view device, std::string_view component) const {
 Widget* Suite::FindAgain(const char* device, const char* component) {
   if (!device || !component) return nullptr;
   State& state = *state_;
-  if (state.found && std::strcmp(component, state.found->Name()) == 0 &&
-      std::strcmp(device, state.found_device->Name()) == 0) {
+  if (state.found && detail::AreEqual(component, state.found->Name()) && detail::AreEqual(device, state.found_device->Name())) {
     return state.found;
   }
   Device* holder = FindDevice(device);

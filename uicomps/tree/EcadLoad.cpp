@@ -16,7 +16,8 @@ namespace oxecad_ui {
 
 /// One load of many nodes. Nodes are gathered by parent as long as none can make another one succeed or fail, and so
 /// may reach the toolkit in any order; then each parent's nodes are sorted and merged with the siblings that are
-/// remembered.
+/// remembered. What is remembered can be out of date: a sibling that was deleted may be among the nodes to be added,
+/// anywhere in the tree. Then all are added as they come.
 class EcadLoad {
  public:
   EcadLoad(Tree& tree, Tree::NodeComparableType order, const std::vector<Tree::EcadNode>& nodes)
@@ -42,6 +43,8 @@ class EcadLoad {
     const char* parent;
     std::vector<std::size_t> nodes;
   };
+  /// What a node's place costs at most when it is searched: about as many reads as a binary search makes.
+  static constexpr std::size_t kReadsOfSearch = 16;
   struct Sibling {
     std::string name;
     std::wstring label;
@@ -67,6 +70,7 @@ class EcadLoad {
 
   void Gather(std::size_t index) {
     const Tree::EcadNode& node = m_nodes[index];
+    m_gathered.push_back(index);
     m_names.insert(node.name);
     if (!IsLastParent(node.parent)) {
       const auto [found, isNew] = m_groupOf.emplace(node.parent, m_groups.size());
@@ -77,11 +81,58 @@ class EcadLoad {
   }
 
   void AddGathered() {
-    for (Group& group : m_groups) AddGroup(group);
+    if (MayGroup()) {
+      for (Group& group : m_groups) AddGroup(group);
+    } else {
+      AddRuns();
+    }
+    m_gathered.clear();
     m_groups.clear();
     m_last = 0;
     m_groupOf.clear();
     m_names.clear();
+  }
+
+  const SortedNames* Remembered(const char* parent) const {
+    const auto found = m_tree.m_childNames.find(parent);
+    return found != m_tree.m_childNames.end() ? found->second.get() : nullptr;
+  }
+
+  /// Whether one of the siblings that are remembered is to be added now.
+  bool ComesAgain(const SortedNames* siblings) const {
+    if (siblings == nullptr) return false;
+    for (std::size_t index = 0; index < siblings->Size(); ++index) {
+      if (m_names.count(siblings->At(index)) != 0) return true;
+    }
+    return false;
+  }
+
+  bool MayGroup() const {
+    std::size_t siblings = 0;
+    for (const Group& group : m_groups) {
+      if (const SortedNames* const names = Remembered(group.parent)) siblings += names->Size();
+    }
+    if (siblings > m_gathered.size() * kReadsOfSearch) return false;  // it would take longer to find out
+    return std::none_of(m_groups.begin(), m_groups.end(),
+                        [this](const Group& group) { return ComesAgain(Remembered(group.parent)); });
+  }
+
+  /// Adds in the order in which the nodes came, with those together that follow each other below one parent.
+  void AddRuns() {
+    for (auto first = m_gathered.begin(); first != m_gathered.end();) {
+      const char* const parent = m_nodes[*first].parent;
+      const auto last = std::find_if(first, m_gathered.end(), [&](std::size_t index) {
+        return std::string_view(m_nodes[index].parent) != parent;
+      });
+      Group run{parent, {first, last}};
+      const SortedNames* const siblings = Remembered(parent);
+      if (siblings != nullptr && (siblings->Size() > run.nodes.size() * kReadsOfSearch || ComesAgain(siblings))) {
+        for (const std::size_t index : run.nodes) AddByItself(index);
+      } else {
+        AddGroup(run);
+      }
+      first = last;
+    }
   }
 
   void AddGroup(Group& group) {
@@ -117,16 +168,13 @@ class EcadLoad {
   /// false where searching a place for each node reads less, or where only the search itself knows what it does: among
   /// siblings without records or out of order.
   bool ReadSiblings(const Group& group, std::vector<Sibling>& siblings) const {
-    const auto found = m_tree.m_childNames.find(group.parent);
-    if (found == m_tree.m_childNames.end()) return true;
-    const SortedNames& names = *found->second;
-    std::size_t probes = 1;
-    for (std::size_t rest = names.Size(); rest > 1; rest /= 2) ++probes;
-    if (group.nodes.size() * probes < names.Size()) return false;
-    siblings.reserve(names.Size());
-    for (std::size_t index = 0; index < names.Size(); ++index) {
+    const SortedNames* const names = Remembered(group.parent);
+    if (names == nullptr) return true;
+    if (names->Size() > group.nodes.size() * kReadsOfSearch) return false;
+    siblings.reserve(names->Size());
+    for (std::size_t index = 0; index < names->Size(); ++index) {
       Tree::NodeInfo record;
-      const std::string& name = names.At(index);
+      const std::string& name = names->At(index);
       if (!m_tree.GetNodeInfo(name.c_str(), record)) return false;
       if (index > 0 && IsNaturallyBefore<false>(record.label.c_str(), siblings.back().label.c_str())) return false;
       siblings.push_back({name, std::move(record.label)});
@@ -164,6 +212,7 @@ class EcadLoad {
   std::vector<bool> m_added;
   Labels m_labels = Labels::Unknown;
 
+  std::vector<std::size_t> m_gathered;
   std::vector<Group> m_groups;
   std::size_t m_last = 0;  // the group that got a node last
   std::unordered_map<std::string_view, std::size_t> m_groupOf;

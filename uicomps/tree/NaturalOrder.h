@@ -42,14 +42,16 @@ constexpr bool IsNaturallyBefore(const wchar_t* a, const wchar_t* b) {
   for (;;) {
     const wchar_t left = *a;
     const wchar_t right = *b;
-    if (left == L'\0') return right != L'\0';
-    if (right == L'\0') return false;
     bool negative = false;
     if (!IsDecimalDigit(left) || !IsDecimalDigit(right)) {
       if (left != right) {
         const auto upperLeft = static_cast<std::uint16_t>(FoldCase(left));
         const auto upperRight = static_cast<std::uint16_t>(FoldCase(right));
+        // The end is less than anything else, but as 16 bits it may look the same.
         if (upperLeft != upperRight) return upperLeft < upperRight;
+        if (left == L'\0' || right == L'\0') return left == L'\0';
+      } else if (left == L'\0') {
+        return false;
       }
       ++a;
       ++b;

@@ -28,6 +28,15 @@ void SayNotSupported() {
   output->pubsync();
 }
 
+/// Makes a record as good as new; its texts keep their memory.
+void Empty(Tree::NodeInfo& record) {
+  record.name.clear();
+  record.label.clear();
+  record.type.clear();
+  record.state = Tree::Unchecked;
+  record.expanded = false;
+}
+
 /// The component name of the tree that filled its memory of inserted names last; empty and unset until one did. It is
 /// the name and not a pointer to it, because the tree may be gone by now.
 struct CacheOwner {
@@ -55,13 +64,15 @@ const CComparator<Tree::NodeInfo>* Tree::GenerateEcadComperatorByType(NodeCompar
 }
 
 template <class NameAt>
-int Tree::SearchPlace(int count, NameAt nameAt, const CComparator<NodeInfo>& comparator, const NodeInfo& node) const {
+int Tree::SearchPlace(int count, const NameAt& nameAt, const CComparator<NodeInfo>& comparator,
+                      const NodeInfo& node) const {
   int low = 0;
   int high = count - 1;
   int failedReads = 0;
+  NodeInfo record;
   while (low <= high) {
     const int middle = low + (high - low) / 2;
-    NodeInfo record;
+    Empty(record);
     if (!GetNodeInfo(nameAt(middle), record)) {
       if (++failedReads == kMostFailedReads) return count;
       continue;
@@ -109,7 +120,8 @@ int Tree::FindPlace(const SortedNames& children, NodeComparableType order, NodeI
     SayNotSupported();
     return count;
   }
-  const auto nameAt = [&](int index) { return children.At(static_cast<std::size_t>(index)).c_str(); };
+  SortedNames::Reader names(children);
+  const auto nameAt = [&](int index) { return names.At(static_cast<std::size_t>(index)).c_str(); };
   return SearchPlace(count, nameAt, EcadLabelOrder(), node);
 }
 

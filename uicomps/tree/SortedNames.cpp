@@ -7,6 +7,7 @@
 namespace oxecad_ui {
 
 SortedNames::Place SortedNames::Find(std::size_t index) const {
+  if (m_chunks.size() == 1) return {0, index};
   const auto behind = std::upper_bound(m_starts.begin(), m_starts.end(), index);
   const auto chunk = static_cast<std::size_t>(behind - m_starts.begin()) - 1;
   return {chunk, index - m_starts[chunk]};
@@ -15,6 +16,13 @@ SortedNames::Place SortedNames::Find(std::size_t index) const {
 const std::string& SortedNames::At(std::size_t index) const {
   const Place place = Find(index);
   return m_chunks[place.chunk][place.offset];
+}
+
+const std::string& SortedNames::Reader::At(std::size_t index) {
+  const std::vector<std::size_t>& starts = m_names.m_starts;
+  const bool isNear = index >= starts[m_chunk] && (m_chunk + 1 == starts.size() || index < starts[m_chunk + 1]);
+  if (!isNear) m_chunk = m_names.Find(index).chunk;
+  return m_names.m_chunks[m_chunk][index - starts[m_chunk]];
 }
 
 void SortedNames::Insert(std::size_t index, std::string name) {

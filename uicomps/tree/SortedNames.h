@@ -19,10 +19,21 @@ class SortedNames {
   /// Inserts before the name at the index; at the size it appends.
   void Insert(std::size_t index, std::string name);
 
+  /// Finds names that mostly lie near the one found before, as those of a binary search. Good until the next insertion.
+  class Reader {
+   public:
+    explicit Reader(const SortedNames& names) : m_names(names) {}
+    const std::string& At(std::size_t index);
+
+   private:
+    const SortedNames& m_names;
+    std::size_t m_chunk = 0;
+  };
+
  private:
   using Chunk = std::vector<std::string>;
   /// Long enough that few chunks are renumbered, short enough that few names are moved.
-  static constexpr std::size_t kMostInChunk = 512;
+  static constexpr std::size_t kMostInChunk = 256;
 
   struct Place {
     std::size_t chunk;

@@ -9,6 +9,7 @@
 #include <uicomps/base/WidgetOf.h>
 #include <uicomps/toolkit/Actions.h>
 #include <uicomps/toolkit/ComponentCalls.h>
+#include <uicomps/toolkit/Lent.h>
 #include <uicomps/tree/SortedNames.h>
 
 namespace oxecad_ui {
@@ -127,9 +128,9 @@ Tree::NodeInfo* Tree::GetNodeInfo(const char* node) const {
 
 void Tree::FillNodeInfo(const char* node, NodeInfo& info) const {
   info.name = node;
-  info.label = GetNodeLabel(node);
+  info.label = wire::LentLabel(WidgetOf(*this), node).View();
   info.state = GetNodeState(node);
-  info.type = GetNodeType(node);
+  info.type = wire::LentType(WidgetOf(*this), node).View();
   info.expanded = GetNodeExpanded(node);
 }
 

@@ -4,9 +4,9 @@
 #define OXECAD_UI_TREE_TREE_H
 
 #include <cstdint>
-#include <map>
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include <uicomps/base/BaseTree.h>
@@ -254,7 +254,7 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
   bool IsActivateAllowed() const { return m_allowActivate; }
 
  private:
-  using ChildNameCache = std::map<std::string, std::unique_ptr<SortedNames>>;
+  using ChildNameCache = std::unordered_map<std::string, std::unique_ptr<SortedNames>>;
   friend class EcadLoad;
 
   bool FinishAdding(bool added, const NodeInfo& info) const;
@@ -263,7 +263,7 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
   /// The index before which the record goes among the cached children; their number means the end.
   int FindPlace(const SortedNames& children, NodeComparableType order, NodeInfo& node) const;
   template <class NameAt>
-  int SearchPlace(int count, NameAt nameAt, const CComparator<NodeInfo>& comparator, const NodeInfo& node) const;
+  int SearchPlace(int count, const NameAt& nameAt, const CComparator<NodeInfo>& comparator, const NodeInfo& node) const;
 
   ChildNameCache m_childNames;
   DirtyHandler m_dirtyHandler = nullptr;

@@ -18,11 +18,11 @@ struct NodeRecord {
   BlockArena::Handle name;      // its characters and a closing 0
   BlockArena::Handle label;     // an encoded wide text (WideCodec.h); none: empty
   NodeId parent;                // of a free record: the next free one
+  std::uint32_t bits;           // flags below, type above; up to here what most calls look at lies in one cache line
   BlockArena::Handle leaf;      // the block of the parent's child list that the node stands in
   BlockArena::Handle children;  // the root block of its own child list; none: no child
   std::uint32_t selected;       // its place in the selection plus 1, or 0
   BlockArena::Handle cells;     // its cells; none: all of them empty
-  std::uint32_t bits;           // flags below, type above
   void* user_data;
 };
 

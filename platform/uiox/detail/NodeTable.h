@@ -11,6 +11,7 @@
 #include <uiox/detail/IdIndex.h>
 #include <uiox/detail/LentAnswers.h>
 #include <uiox/detail/NodeRecords.h>
+#include <uiox/detail/ShortText.h>
 #include <uiox/detail/SelectionList.h>
 
 #include <cstddef>
@@ -40,12 +41,14 @@ class NodeTable {
   }
   /// The same for a name that ends with a 0. Calls that follow each other mostly name the same node.
   NodeId FindAgain(const char* name) const {
-    const std::uint32_t hash = detail::Hash(std::string_view(name));
-    if (hash == last_hash_ && nodes_.Has(last_found_) && std::strcmp(Name(last_found_), name) == 0) return last_found_;
-    const NodeId found = index_.Find(hash, [&](NodeId node) { return std::strcmp(Name(node), name) == 0; });
-    if (found == kTop) return kNoNode;
-    last_hash_ = hash;
-    return last_found_ = found;
+    if (nodes_.Has(last_found_) && detail::AreEqual(Name(last_found_), name)) return last_found_;
+    const NodeId found = index_.Find(detail::Hash(std::string_view(name)), [&](NodeId node) {
+      // The label is read next, mostly, and lies elsewhere.
+      const detail::NodeRecord& record = nodes_[node];
+      if (record.label != detail::BlockArena::kNone) __builtin_prefetch(blocks_.As<char>(record.label));
+      return detail::AreEqual(blocks_.As<char>(record.name), name);
+    });
+    return found == kTop ? kNoNode : last_found_ = found;
   }
 
   std::size_t Size() const { return index_.Size(); }
@@ -141,7 +144,6 @@ class NodeTable {
   std::uint64_t lent_selection_version_ = 0;
   NodeId marks_[kMarks] = {kNoNode, kNoNode, kNoNode, kNoNode};
   mutable NodeId last_found_ = kTop;
-  mutable std::uint32_t last_hash_ = 0;
 };
 
 }  // namespace uiox
