@@ -33,6 +33,11 @@ struct Colors {
     tree.AddNodes(records);
     Check(NodesOnStage() == 1 + records.size(), "all nodes were added");
   }
+  /// A leaf somewhere in the tree, another one each time.
+  const char* Next() {
+    at = (at + 7919) % records.size();
+    return records[at].name.c_str();
+  }
   /// The other one of two colours.
   unsigned int Turn() { return color ^= kRed ^ kBlue; }
 
@@ -40,6 +45,7 @@ struct Colors {
   std::string last;
   Staged<ColorTree> tree;
   unsigned int color = kRed;
+  std::size_t at = 0;
 };
 
 }  // namespace
@@ -63,9 +69,9 @@ std::vector<Operation> ColorOperations(std::size_t nodes) {
   return {
       adding,
       loading,
-      often("GetNodeColor", [](Colors& colors) { Keep(colors.tree.GetNodeColor(colors.last.c_str())); }),
+      often("GetNodeColor", [](Colors& colors) { Keep(colors.tree.GetNodeColor(colors.Next())); }),
       often("ParentColorChanged, of a leaf",
-            [](Colors& colors) { colors.tree.ParentColorChanged(colors.last.c_str(), kRed); }),
+            [](Colors& colors) { colors.tree.ParentColorChanged(colors.Next(), kRed); }),
       once("ChildColorChanged", [](Colors& colors) { colors.tree.ChildColorChanged("root"); }),
       once("ChangeNodeColor, of a leaf",
            [](Colors& colors) {

@@ -69,11 +69,6 @@ std::vector<Operation> CompareOperations(std::size_t nodes) {
       once("ChangeNodeInfo, of a leaf",
            [](Compared& compared) { compared.Change(compared.records.back().name.c_str()); }),
       once("ChangeNodeInfo, of the parent", [](Compared& compared) { compared.Change("top"); }),
-      once("GetNodeInfo",
-           [](Compared& compared) {
-             Tree::NodeInfo info;
-             static_cast<Tree&>(*compared.tree).GetNodeInfo(compared.records.back().name.c_str(), info);
-           }),
       adding,
   };
 }

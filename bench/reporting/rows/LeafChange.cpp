@@ -1,4 +1,4 @@
-// One leaf changes, and what is above it sums it up.
+// One leaf changes again and again, and what is above it sums it up.
 #include <memory>
 
 #include "bench/reporting/Floors.h"
@@ -14,42 +14,28 @@ using oxecad_ui::ColorTree;
 
 constexpr unsigned int kNew = 0x00FFFFu;
 constexpr std::size_t kChanges = 1000;
-constexpr std::size_t kOperations = 2 * kChanges;  // each leaf is changed and changed back
+constexpr std::size_t kOperations = 2 * kChanges;  // there and back
 constexpr int kRepetitions = 11;
 
 /// Neighbouring groups differ: above them the tree is mixed.
 unsigned int ColorOfGroup(std::size_t group) { return static_cast<unsigned int>(group % 16) << 4; }
 
-/// Nets all over the tree, the same ones each time.
-std::vector<std::size_t> ChangingNets(const GroupedNets& nets) {
-  std::vector<std::size_t> chosen;
-  std::uint64_t state = 1;
-  for (std::size_t change = 0; change < kChanges; ++change) {
-    state = state * 6364136223846793005u + 1442695040888963407u;
-    chosen.push_back(static_cast<std::size_t>((state >> 33) % nets.nets.names.size()));
-  }
-  return chosen;
-}
+/// The last leaf of a group in the middle: all its siblings have to be looked at.
+std::size_t ChangingNet(const GroupedNets& nets) { return nets.nets.names.size() - nets.groups / 2; }
+
+unsigned int OldColor(const GroupedNets& nets) { return ColorOfGroup(nets.GroupOf(ChangingNet(nets))); }
 
 Contender Ours(const GroupedNets& nets) {
   auto tree = std::make_shared<Staged<ColorTree>>();
   using Info = ColorTree::ColorNodeInfo;
   tree->AddNodes(RecordsOf<Info>(nets, [](Info& record, std::size_t group) { record.color = ColorOfGroup(group); }));
   Check(NodesOnStage() == nets.Nodes() && tree->GetNodeColor("root") == kMixed, "all nodes were added and summed up");
-  struct Change {
-    std::string name;
-    unsigned int color;
-  };
-  std::vector<Change> changes;
-  for (const std::size_t net : ChangingNets(nets)) {
-    changes.push_back({nets.nets.names[net], ColorOfGroup(nets.GroupOf(net))});
-  }
-  return {"ChangeNodeColor", [tree, changes](Meter& meter) {
+  return {"ChangeNodeColor", [tree, leaf = nets.nets.names[ChangingNet(nets)], old = OldColor(nets)](Meter& meter) {
             ColorTree& colors = *tree;
             meter.Run([&] {
-              for (const Change& change : changes) {
-                colors.ChangeNodeColor(change.name.c_str(), kNew);
-                colors.ChangeNodeColor(change.name.c_str(), change.color);
+              for (std::size_t change = 0; change < kChanges; ++change) {
+                colors.ChangeNodeColor(leaf.c_str(), kNew);
+                colors.ChangeNodeColor(leaf.c_str(), old);
               }
             });
           }};
@@ -62,23 +48,15 @@ Contender Model(const GroupedNets& nets) {
   };
   auto filled = std::make_shared<Filled>();
   const GroupedItems items(*filled->model.invisibleRootItem(), nets, filled->icons, ColorOfGroup);
-  struct Change {
-    QStandardItem* item;
-    unsigned int color;
-  };
-  std::vector<Change> changes;
-  for (const std::size_t net : ChangingNets(nets)) {
-    changes.push_back({items.nets[net], ColorOfGroup(nets.GroupOf(net))});
-  }
-  return {"QStandardItemModel", [filled, changes](Meter& meter) {
-            const auto give = [&](QStandardItem* item, unsigned int color) {
-              SetColor(*item, color, filled->icons);
-              SumUpColors(item->parent(), filled->icons);
+  return {"QStandardItemModel", [filled, leaf = items.nets[ChangingNet(nets)], old = OldColor(nets)](Meter& meter) {
+            const auto give = [&](unsigned int color) {
+              SetColor(*leaf, color, filled->icons);
+              SumUpColors(leaf->parent(), filled->icons);
             };
             meter.Run([&] {
-              for (const Change& change : changes) {
-                give(change.item, kNew);
-                give(change.item, change.color);
+              for (std::size_t change = 0; change < kChanges; ++change) {
+                give(kNew);
+                give(old);
               }
             });
           }};
@@ -101,13 +79,11 @@ Contender Widget(const GroupedNets& nets) {
     items.push_back(append(*root->child(static_cast<int>(group))));
     items.back()->setCheckState(0, group % 2 == 0 ? Qt::Checked : Qt::Unchecked);
   }
-  std::vector<QTreeWidgetItem*> leaves;
-  for (const std::size_t net : ChangingNets(nets)) leaves.push_back(items[net]);
-  return {"auto-tristate QTreeWidget", [widget, root, leaves](Meter& meter) {
+  return {"auto-tristate QTreeWidget", [widget, root, leaf = items[ChangingNet(nets)]](Meter& meter) {
+            const Qt::CheckState old = leaf->checkState(0);
             meter.Run([&] {
-              for (QTreeWidgetItem* leaf : leaves) {
-                const Qt::CheckState before = leaf->checkState(0);
-                for (const Qt::CheckState state : {before == Qt::Checked ? Qt::Unchecked : Qt::Checked, before}) {
+              for (std::size_t change = 0; change < kChanges; ++change) {
+                for (const Qt::CheckState state : {old == Qt::Checked ? Qt::Unchecked : Qt::Checked, old}) {
                   leaf->setCheckState(0, state);
                   Keep(root->checkState(0));
                 }
@@ -131,22 +107,14 @@ void SumUp(NamedNodes<unsigned int>& nodes, const std::string& name) {
 
 Contender FloorByName(const GroupedNets& nets) {
   const auto nodes = std::make_shared<NamedNodes<unsigned int>>(nets, ColorOfGroup);
-  struct Change {
-    std::string name;
-    std::string group;
-    unsigned int color;
-  };
-  std::vector<Change> changes;
-  for (const std::size_t net : ChangingNets(nets)) {
-    const std::size_t group = nets.GroupOf(net);
-    changes.push_back({nets.nets.names[net], GroupName(group), ColorOfGroup(group)});
-  }
-  return {"by name", [nodes, changes](Meter& meter) {
+  const std::size_t net = ChangingNet(nets);
+  return {"by name", [nodes, leaf = nets.nets.names[net], group = GroupName(nets.GroupOf(net)),
+                      old = OldColor(nets)](Meter& meter) {
             meter.Run([&] {
-              for (const Change& change : changes) {
-                for (const unsigned int color : {kNew, change.color}) {
-                  nodes->At(change.name) = color;
-                  SumUp(*nodes, change.group);
+              for (std::size_t change = 0; change < kChanges; ++change) {
+                for (const unsigned int color : {kNew, old}) {
+                  nodes->At(leaf) = color;
+                  SumUp(*nodes, group);
                   SumUp(*nodes, "root");
                 }
               }
