@@ -32,6 +32,10 @@ bool Contains(const NameList& names, const char* wanted) {
 
 BaseTree::BaseTree(const char* device, const char* name) : Component(device, name) {}
 
+BaseTree::BaseTree(const BaseTree&) = default;
+
+BaseTree& BaseTree::operator=(const BaseTree&) = default;
+
 BaseTree::~BaseTree() {
   const wire::Widget tree = WidgetOf(*this);
   wire::RemoveAction<&BaseTree::SelectCB>(tree, wire::Reason::Select);

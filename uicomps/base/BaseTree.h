@@ -34,8 +34,10 @@ class OXECAD_UI_EXPORT BaseTree : public Component {
 
   /// Names the tree, as `Component` does; calls nothing.
   BaseTree(const char* device, const char* name);
-  BaseTree(const BaseTree&) = default;
-  BaseTree& operator=(const BaseTree&) = default;
+  /// The copy works on the same widget.
+  BaseTree(const BaseTree&);
+  /// Works on the widget of the other from now on.
+  BaseTree& operator=(const BaseTree&);
   /// Removes the callbacks that `Init` registered. Each copy does so again.
   ~BaseTree() override;
 

@@ -6,6 +6,10 @@ namespace oxecad_ui {
 
 Component::Component(const char* device, const char* name) : m_device(TextOrEmpty(device)), m_name(TextOrEmpty(name)) {}
 
+Component::Component(const Component&) = default;
+
+Component& Component::operator=(const Component&) = default;
+
 Component::~Component() = default;
 
 }  // namespace oxecad_ui

@@ -17,8 +17,10 @@ class OXECAD_UI_EXPORT Component {
  public:
   /// Copies both names; a null pointer is an empty name.
   Component(const char* device, const char* name);
-  Component(const Component&) = default;
-  Component& operator=(const Component&) = default;
+  /// The copy works on the same widget.
+  Component(const Component&);
+  /// Works on the widget of the other from now on.
+  Component& operator=(const Component&);
   virtual ~Component();
 
   /// Registers the component's callbacks. The device must exist.

@@ -12,9 +12,17 @@
 
 namespace oxecad_ui {
 
+ColorTree::ColorNodeInfo::ColorNodeInfo(const ColorNodeInfo&) = default;
+
+ColorTree::ColorNodeInfo& ColorTree::ColorNodeInfo::operator=(const ColorNodeInfo&) = default;
+
 ColorTree::ColorNodeInfo::~ColorNodeInfo() = default;
 
 ColorTree::ColorTree(const char* device, const char* name) : Tree(device, name) {}
+
+ColorTree::ColorTree(const ColorTree&) = default;
+
+ColorTree& ColorTree::operator=(const ColorTree&) = default;
 
 ColorTree::~ColorTree() = default;
 

@@ -33,8 +33,10 @@ class OXECAD_UI_EXPORT ColorTree : public Tree {
   /// A node with its colour.
   struct OXECAD_UI_EXPORT ColorNodeInfo : NodeInfo {
     ColorNodeInfo() = default;
-    ColorNodeInfo(const ColorNodeInfo&) = default;
-    ColorNodeInfo& operator=(const ColorNodeInfo&) = default;
+    /// Copies all members.
+    ColorNodeInfo(const ColorNodeInfo&);
+    /// Copies all members.
+    ColorNodeInfo& operator=(const ColorNodeInfo&);
     ~ColorNodeInfo() override;
 
     unsigned int color = 0xFFFFFFFFu;  ///< 0x00BBGGRR, 0xFFFFFFFF for none
@@ -45,8 +47,10 @@ class OXECAD_UI_EXPORT ColorTree : public Tree {
 
   /// Names the tree, as `Component` does; calls nothing.
   ColorTree(const char* device, const char* name);
-  ColorTree(const ColorTree&) = default;
-  ColorTree& operator=(const ColorTree&) = default;
+  /// The copy works on the same widget.
+  ColorTree(const ColorTree&);
+  /// Works on the widget of the other from now on.
+  ColorTree& operator=(const ColorTree&);
   ~ColorTree() override;
 
   using Tree::AddNode;

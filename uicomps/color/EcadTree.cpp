@@ -40,6 +40,10 @@ const char* CurrentNode(const wire::Widget& tree) {
 
 EcadTree::EcadTree(const char* device, const char* name) : Tree(device, name) {}
 
+EcadTree::EcadTree(const EcadTree&) = default;
+
+EcadTree& EcadTree::operator=(const EcadTree&) = default;
+
 EcadTree::~EcadTree() = default;
 
 void* EcadTree::GetNodeData(const char* node) const {

@@ -19,8 +19,10 @@ class OXECAD_UI_EXPORT EcadTree : public Tree {
  public:
   /// Names the tree, as `Component` does; calls nothing.
   EcadTree(const char* device, const char* name);
-  EcadTree(const EcadTree&) = default;
-  EcadTree& operator=(const EcadTree&) = default;
+  /// The copy works on the same widget.
+  EcadTree(const EcadTree&);
+  /// Works on the widget of the other from now on.
+  EcadTree& operator=(const EcadTree&);
   ~EcadTree() override;
 
   using Tree::GetNodeData;

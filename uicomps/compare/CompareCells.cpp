@@ -1,4 +1,5 @@
 #include <uicomps/base/WidgetOf.h>
+#include <uicomps/compare/ColorLabel.h>
 #include <uicomps/compare/CompareColorTree.h>
 #include <uicomps/toolkit/CellCalls.h>
 
@@ -38,11 +39,19 @@ void CompareColorTree::GetNodeInfo(const char* node, unsigned int& colorA, unsig
 
 void CompareColorTree::SetNodeInfo(const char* node, unsigned int colorA, unsigned int colorB,
                                    unsigned int colorOverlap, ShowMode showMode, NodeState dim, DesignFlag designFlag) {
+  ColorLabel labelA(colorA);
+  ColorLabel labelB(colorB);
+  ColorLabel labelOverlap(colorOverlap);
+  SetNodeInfo(node, labelA, labelB, labelOverlap, showMode, dim, designFlag);
+}
+
+void CompareColorTree::SetNodeInfo(const char* node, ColorLabel& colorA, ColorLabel& colorB, ColorLabel& colorOverlap,
+                                   ShowMode showMode, NodeState dim, DesignFlag designFlag) const {
   SetCellLabel(node, s_showModeColumn, ShowModeToLabel(showMode));
   SetDimState(node, dim);
-  SetCellLabel(node, s_colorAColumn, (designFlag & DesignA) != 0 ? ColorToLabel(colorA).c_str() : L"");
-  SetCellLabel(node, s_colorBColumn, (designFlag & DesignB) != 0 ? ColorToLabel(colorB).c_str() : L"");
-  SetCellLabel(node, s_overlapColumn, designFlag == DesignBoth ? ColorToLabel(colorOverlap).c_str() : L"");
+  SetCellLabel(node, s_colorAColumn, (designFlag & DesignA) != 0 ? colorA.Text() : L"");
+  SetCellLabel(node, s_colorBColumn, (designFlag & DesignB) != 0 ? colorB.Text() : L"");
+  SetCellLabel(node, s_overlapColumn, designFlag == DesignBoth ? colorOverlap.Text() : L"");
 }
 
 }  // namespace oxecad_ui

@@ -4,6 +4,7 @@
 
 #include <uicomps/base/Text.h>
 #include <uicomps/base/WidgetOf.h>
+#include <uicomps/compare/ColorLabel.h>
 #include <uicomps/compare/CompareColorTree.h>
 #include <uicomps/toolkit/ChildNames.h>
 
@@ -49,12 +50,16 @@ void CompareColorTree::ChangeNodeInfo(const std::vector<std::string>&) {}
 void CompareColorTree::ParentInfoChanged(const char* node, unsigned int colorA, unsigned int colorB,
                                          unsigned int colorOverlap, ShowMode showMode, NodeState dim,
                                          DesignFlag designFlag) {
+  ColorLabel labelA(colorA);
+  ColorLabel labelB(colorB);
+  ColorLabel labelOverlap(colorOverlap);
   WriteBranch(node,
-              [&](const char* each) { SetNodeInfo(each, colorA, colorB, colorOverlap, showMode, dim, designFlag); });
+              [&](const char* each) { SetNodeInfo(each, labelA, labelB, labelOverlap, showMode, dim, designFlag); });
 }
 
 void CompareColorTree::ParentColorChanged(const char* node, unsigned int color, const char* column) {
-  WriteBranch(node, [&](const char* each) { SetCellLabel(each, column, ColorToLabel(color).c_str()); });
+  ColorLabel label(color);
+  WriteBranch(node, [&](const char* each) { SetCellLabel(each, column, label.Text()); });
 }
 
 void CompareColorTree::ParentDimChanged(const char* node, NodeState dim) {

@@ -29,9 +29,17 @@ constexpr int kShowModeCount = static_cast<int>(std::size(kShowModeItems));
 
 }  // namespace
 
+CompareColorTree::CompareNodeInfo::CompareNodeInfo(const CompareNodeInfo&) = default;
+
+CompareColorTree::CompareNodeInfo& CompareColorTree::CompareNodeInfo::operator=(const CompareNodeInfo&) = default;
+
 CompareColorTree::CompareNodeInfo::~CompareNodeInfo() = default;
 
 CompareColorTree::CompareColorTree(const char* device, const char* component) : Tree(device, component) {}
+
+CompareColorTree::CompareColorTree(const CompareColorTree&) = default;
+
+CompareColorTree& CompareColorTree::operator=(const CompareColorTree&) = default;
 
 CompareColorTree::~CompareColorTree() {
   const wire::Widget tree = WidgetOf(*this);

@@ -44,8 +44,10 @@ class OXECAD_UI_EXPORT CompareColorTree : public Tree {
   /// A compare node with its five values and where it exists.
   struct OXECAD_UI_EXPORT CompareNodeInfo : NodeInfo {
     CompareNodeInfo() = default;
-    CompareNodeInfo(const CompareNodeInfo&) = default;
-    CompareNodeInfo& operator=(const CompareNodeInfo&) = default;
+    /// Copies all members.
+    CompareNodeInfo(const CompareNodeInfo&);
+    /// Copies all members.
+    CompareNodeInfo& operator=(const CompareNodeInfo&);
     ~CompareNodeInfo() override;
 
     unsigned int colorA = 0xFFFFFFFFu;        ///< in design A
@@ -82,8 +84,9 @@ class OXECAD_UI_EXPORT CompareColorTree : public Tree {
   /// Names the tree, as `Component` does; calls nothing.
   CompareColorTree(const char* device, const char* component);
   /// The copy works on the same widget and the same controls; the destructor of each destroys the controls.
-  CompareColorTree(const CompareColorTree&) = default;
-  CompareColorTree& operator=(const CompareColorTree&) = default;
+  CompareColorTree(const CompareColorTree&);
+  /// Works on the widget of the other from now on.
+  CompareColorTree& operator=(const CompareColorTree&);
   ~CompareColorTree() override;
 
   using Tree::AddNode;
@@ -135,6 +138,7 @@ class OXECAD_UI_EXPORT CompareColorTree : public Tree {
 
  private:
   using Children = std::vector<std::string>;
+  friend class ColorLabel;
   friend class CompareLoad;
 
   const char* GetDimCheckCtrl(const char* node);
@@ -145,6 +149,8 @@ class OXECAD_UI_EXPORT CompareColorTree : public Tree {
                    ShowMode& showMode, NodeState& dim, DesignFlag& designFlag) const;
   void SetNodeInfo(const char* node, unsigned int colorA, unsigned int colorB, unsigned int colorOverlap,
                    ShowMode showMode, NodeState dim, DesignFlag designFlag);
+  void SetNodeInfo(const char* node, class ColorLabel& colorA, ColorLabel& colorB, ColorLabel& colorOverlap,
+                   ShowMode showMode, NodeState dim, DesignFlag designFlag) const;
 
   static std::wstring ColorToLabel(unsigned int color);
   static unsigned int LabelToColor(const std::wstring& label);

@@ -19,6 +19,10 @@ RenameWithBalloonDlg::RenameWithBalloonDlg(const std::set<std::wstring>& existin
                                            bool flag)
     : RenameDlg(flag, nullptr, oxkutils::Symbol::EMPTY), m_existingNames(existingNames), m_message(message) {}
 
+RenameWithBalloonDlg::RenameWithBalloonDlg(const RenameWithBalloonDlg&) = default;
+
+RenameWithBalloonDlg& RenameWithBalloonDlg::operator=(const RenameWithBalloonDlg&) = default;
+
 RenameWithBalloonDlg::~RenameWithBalloonDlg() = default;
 
 void RenameWithBalloonDlg::StandardBaloon(const char* control, const std::string& message) {

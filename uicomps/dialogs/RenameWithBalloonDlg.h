@@ -19,8 +19,10 @@ class OXECAD_UI_EXPORT RenameWithBalloonDlg : public oxcore::RenameDlg {
   /// Names are compared code unit by code unit, with regard to case. `message` (UTF-8) is what the balloon says. `flag`
   /// goes to the platform's dialog.
   RenameWithBalloonDlg(const std::set<std::wstring>& existingNames, const std::string& message, bool flag);
-  RenameWithBalloonDlg(const RenameWithBalloonDlg&) = default;
-  RenameWithBalloonDlg& operator=(const RenameWithBalloonDlg&) = default;
+  /// Copies all members.
+  RenameWithBalloonDlg(const RenameWithBalloonDlg&);
+  /// Copies all members.
+  RenameWithBalloonDlg& operator=(const RenameWithBalloonDlg&);
   ~RenameWithBalloonDlg() override;
 
   /// Shows an error with an "ok" button in a balloon at a control of the current device, and waits until it is

@@ -9,6 +9,10 @@
 
 namespace oxecad_ui {
 
+InputTest::InputTest(const InputTest&) = default;
+
+InputTest& InputTest::operator=(const InputTest&) = default;
+
 InputTest::~InputTest() = default;
 
 template <class T>
@@ -56,6 +60,10 @@ template class NumericInputTest<double>;
 
 LengthInputTest::LengthInputTest(double min, double max, unsigned char unit)
     : NumericInputTest<double>(min, max, true), m_unit(unit) {}
+
+LengthInputTest::LengthInputTest(const LengthInputTest&) = default;
+
+LengthInputTest& LengthInputTest::operator=(const LengthInputTest&) = default;
 
 LengthInputTest::~LengthInputTest() = default;
 

@@ -15,8 +15,10 @@ namespace oxecad_ui {
 class OXECAD_UI_EXPORT InputTest : public oxkutils::RefCounted {
  public:
   InputTest() = default;
-  InputTest(const InputTest&) = default;
-  InputTest& operator=(const InputTest&) = default;
+  /// Copies all members.
+  InputTest(const InputTest&);
+  /// Copies all members.
+  InputTest& operator=(const InputTest&);
   ~InputTest() override;
 
   /// Whether the text may stand in the field while the user types. Null is an empty text.
@@ -61,8 +63,10 @@ class OXECAD_UI_EXPORT LengthInputTest : public NumericInputTest<double> {
  public:
   /// Both limits are in `unit`, a code of the platform's `oxg::LengthUnit`.
   LengthInputTest(double min, double max, unsigned char unit);
-  LengthInputTest(const LengthInputTest&) = default;
-  LengthInputTest& operator=(const LengthInputTest&) = default;
+  /// Copies all members.
+  LengthInputTest(const LengthInputTest&);
+  /// Copies all members.
+  LengthInputTest& operator=(const LengthInputTest&);
   ~LengthInputTest() override;
 
   /// Converts the limits to another unit. Text in a field is not converted.

@@ -20,6 +20,10 @@ InputVerifier::InputVerifier() = default;
 
 InputVerifier::InputVerifier(const char* device) : m_device(TextOrEmpty(device)) {}
 
+InputVerifier::InputVerifier(const InputVerifier&) = default;
+
+InputVerifier& InputVerifier::operator=(const InputVerifier&) = default;
+
 InputVerifier::~InputVerifier() = default;
 
 void InputVerifier::SetDev(const char* device) { m_device = Symbol(TextOrEmpty(device)); }

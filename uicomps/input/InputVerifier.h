@@ -26,8 +26,10 @@ class OXECAD_UI_EXPORT InputVerifier {
   InputVerifier();
   /// Names the dialog that holds the fields; calls nothing.
   explicit InputVerifier(const char* device);
-  InputVerifier(const InputVerifier&) = default;
-  InputVerifier& operator=(const InputVerifier&) = default;
+  /// Copies all members.
+  InputVerifier(const InputVerifier&);
+  /// Copies all members.
+  InputVerifier& operator=(const InputVerifier&);
   ~InputVerifier();
 
   /// Names the dialog that holds the fields.

@@ -24,6 +24,8 @@ class EcadLoad {
       : m_tree(tree), m_order(order), m_nodes(nodes), m_added(nodes.size(), false) {}
 
   std::vector<bool> Run() {
+    m_names.reserve(m_nodes.size());
+    m_gathered.reserve(m_nodes.size());
     for (std::size_t index = 0; index < m_nodes.size(); ++index) {
       const Tree::EcadNode& node = m_nodes[index];
       if (!MayWait(node)) {

@@ -18,6 +18,10 @@ Tree::NodeFilter::Result TakeChecked(Tree::NodeState state) {
 
 }  // namespace
 
+Tree::NodeFilter::NodeFilter(const NodeFilter&) = default;
+
+Tree::NodeFilter& Tree::NodeFilter::operator=(const NodeFilter&) = default;
+
 Tree::NodeFilter::~NodeFilter() = default;
 
 Tree::NodeFilter::Result Tree::Everything::operator()(const Tree*, const char*) const { return Accept; }

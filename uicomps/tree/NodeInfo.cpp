@@ -4,6 +4,10 @@
 
 namespace oxecad_ui {
 
+Tree::NodeInfo::NodeInfo(const NodeInfo&) = default;
+
+Tree::NodeInfo& Tree::NodeInfo::operator=(const NodeInfo&) = default;
+
 Tree::NodeInfo::~NodeInfo() = default;
 
 Tree::TreeInfo::TreeInfo(const TreeInfo& other) : records(other.records), ownsRecords(false) {}

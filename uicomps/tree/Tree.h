@@ -38,9 +38,11 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
   /// one.
   struct OXECAD_UI_EXPORT NodeInfo {
     NodeInfo() = default;
-    NodeInfo(const NodeInfo&) = default;
+    /// Copies all members.
+    NodeInfo(const NodeInfo&);
     NodeInfo(NodeInfo&&) = default;
-    NodeInfo& operator=(const NodeInfo&) = default;
+    /// Copies all members.
+    NodeInfo& operator=(const NodeInfo&);
     NodeInfo& operator=(NodeInfo&&) = default;
     virtual ~NodeInfo();
 
@@ -82,8 +84,10 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
     };
 
     NodeFilter() = default;
-    NodeFilter(const NodeFilter&) = default;
-    NodeFilter& operator=(const NodeFilter&) = default;
+    /// Copies all members.
+    NodeFilter(const NodeFilter&);
+    /// Copies all members.
+    NodeFilter& operator=(const NodeFilter&);
     virtual ~NodeFilter();
     /// Asks about a node by its name; the tree may be null.
     virtual Result operator()(const Tree* tree, const char* node) const = 0;

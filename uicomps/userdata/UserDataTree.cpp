@@ -27,10 +27,18 @@ std::wstring Digits(Number number) {
 
 }  // namespace
 
+UserDataTree::DataNodeInfo::DataNodeInfo(const DataNodeInfo&) = default;
+
+UserDataTree::DataNodeInfo& UserDataTree::DataNodeInfo::operator=(const DataNodeInfo&) = default;
+
 UserDataTree::DataNodeInfo::~DataNodeInfo() = default;
 
 UserDataTree::UserDataTree(const char* device, const char* component, const char* leafType)
     : Tree(device, component), m_leafType(TextOrEmpty(leafType)) {}
+
+UserDataTree::UserDataTree(const UserDataTree&) = default;
+
+UserDataTree& UserDataTree::operator=(const UserDataTree&) = default;
 
 UserDataTree::~UserDataTree() = default;
 

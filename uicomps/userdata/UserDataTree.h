@@ -30,8 +30,10 @@ class OXECAD_UI_EXPORT UserDataTree : public Tree {
   /// A node with the application's pointer.
   struct OXECAD_UI_EXPORT DataNodeInfo : NodeInfo {
     DataNodeInfo() = default;
-    DataNodeInfo(const DataNodeInfo&) = default;
-    DataNodeInfo& operator=(const DataNodeInfo&) = default;
+    /// Copies all members.
+    DataNodeInfo(const DataNodeInfo&);
+    /// Copies all members.
+    DataNodeInfo& operator=(const DataNodeInfo&);
     ~DataNodeInfo() override;
 
     void* data = nullptr;  ///< the application's, not owned; of a counted branch its number
@@ -39,8 +41,10 @@ class OXECAD_UI_EXPORT UserDataTree : public Tree {
 
   /// Keeps a copy of the leaf type.
   UserDataTree(const char* device, const char* component, const char* leafType);
-  UserDataTree(const UserDataTree&) = default;
-  UserDataTree& operator=(const UserDataTree&) = default;
+  /// The copy works on the same widget.
+  UserDataTree(const UserDataTree&);
+  /// Works on the widget of the other from now on.
+  UserDataTree& operator=(const UserDataTree&);
   ~UserDataTree() override;
 
   using Tree::AddNode;

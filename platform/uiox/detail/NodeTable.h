@@ -11,8 +11,8 @@
 #include <uiox/detail/IdIndex.h>
 #include <uiox/detail/LentAnswers.h>
 #include <uiox/detail/NodeRecords.h>
-#include <uiox/detail/ShortText.h>
 #include <uiox/detail/SelectionList.h>
+#include <uiox/detail/ShortText.h>
 
 #include <cstddef>
 #include <cstring>
@@ -39,9 +39,12 @@ class NodeTable {
         index_.Find(detail::Hash(name), [&](NodeId node) { return IsName(blocks_.As<char>(nodes_[node].name), name); });
     return found == kTop ? kNoNode : found;
   }
-  /// The same for a name that ends with a 0. Calls that follow each other mostly name the same node.
+  /// The same for a name that ends with a 0. Calls that follow each other mostly name the same node, or go through
+  /// siblings in the order in which they were made.
   NodeId FindAgain(const char* name) const {
-    if (nodes_.Has(last_found_) && detail::AreEqual(Name(last_found_), name)) return last_found_;
+    for (const NodeId likely : {last_found_, last_found_ + 1}) {
+      if (nodes_.Has(likely) && detail::AreEqual(Name(likely), name)) return last_found_ = likely;
+    }
     const NodeId found = index_.Find(detail::Hash(std::string_view(name)), [&](NodeId node) {
       // The label is read next, mostly, and lies elsewhere.
       const detail::NodeRecord& record = nodes_[node];

@@ -6,6 +6,7 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <new>
 #include <string_view>
 
@@ -40,7 +41,17 @@ void* CopyChildren(const NodeTable& table, NodeId node) {
   if (count == 0) return nullptr;
   // Names are looked at twice, first for their lengths; the pointers wait in the block meanwhile.
   std::size_t bytes = 0;
-  table.Children().ForEach(node, [&](NodeId child) { bytes += std::strlen(table.Name(child)) + 1; });
+  const char* waiting[8] = {"", "", "", "", "", "", "", ""};  // names on their way from the memory
+  std::size_t turn = 0;
+  const auto measure = [&](const char* name) {
+    const char*& oldest = waiting[turn++ % std::size(waiting)];
+    bytes += std::strlen(oldest) + 1;
+    __builtin_prefetch(name);
+    oldest = name;
+  };
+  table.Children().ForEach(node, [&](NodeId child) { measure(table.Name(child)); });
+  for (std::size_t rest = 0; rest < std::size(waiting); ++rest) measure("");
+  bytes -= std::size(waiting);  // the ends of the empty names before the first
   auto* pointers = static_cast<char**>(NewBlock(count * sizeof(char*) + bytes));
   char* characters = reinterpret_cast<char*>(pointers + count);
   char** place = pointers;
