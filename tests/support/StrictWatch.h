@@ -17,6 +17,8 @@ class StrictWatch {
   static void Expect(std::string leftover);
   /// A fault whose line begins so may be told from now on, any number of times.
   static void Allow(std::string beginning);
+  /// The same for all cases of the program; for its `main`.
+  static void AllowAlways(std::string beginning);
 };
 
 }  // namespace test_support

@@ -100,7 +100,7 @@ class OXECAD_UI_EXPORT BaseTree : public Component {
   /// The number of a node's children, without those further down. Constant time.
   int GetNodeChildCount(const char* node) const;
   /// Lends the children's names: the array is the toolkit's and good until the next change below the node. On failure
-  /// `count` is 0 and `children` null.
+  /// `count` is 0 and `children` null. What it costs is the toolkit's affair; the stand-in needs linear time.
   bool GetNodeChildren(const char* node, int* count, char*** children) const;
   /// Reads the application's pointer; `data` is written on success only.
   bool GetNodeData(const char* node, void*& data) const;

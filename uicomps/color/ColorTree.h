@@ -68,7 +68,7 @@ class OXECAD_UI_EXPORT ColorTree : public Tree {
   /// Needs a dirty handler.
   void OnSelect(int count, char** nodes, int extra) override;
   /// Carries the check to the other selected nodes when the node is one of several, and leaves at most one node of a
-  /// single-check branch checked.
+  /// single-check branch checked. Linear in the number of selected nodes and of the children of such branches.
   void OnCheck(const char* node) override;
 
   /// Whether nodes of a type have no colour.
@@ -95,10 +95,11 @@ class OXECAD_UI_EXPORT ColorTree : public Tree {
   /// Sums up the children of a node, and of its ancestors as long as something changes. A node without children keeps
   /// its colour. Linear in the number of children of each node looked at.
   void ChildColorChanged(const char* node);
-  /// Gives a colour to a node that has one, to its branch, and sums up above. Nobody is asked or told.
+  /// Gives a colour to a node that has one, to its branch, and sums up above. Nobody is asked or told. Linear
+  /// in the size of the branch, and in the number of children of each ancestor looked at.
   void ChangeNodeColor(const char* node, unsigned int color);
   /// Lets the user choose one colour for several nodes, colourless ones included. Nothing happens when the user
-  /// cancels.
+  /// cancels. Linear in the size of their branches.
   void ChangeNodeColor(const std::vector<std::string>& nodes);
 
   /// At most one child of the node stays checked from now on when the user checks one.
@@ -115,7 +116,8 @@ class OXECAD_UI_EXPORT ColorTree : public Tree {
 
   /// A new `ColorNodeInfo`.
   NodeInfo* GetNodeInfo(const char* node) const override;
-  /// Lets the user choose a colour for one node that has one. Nothing happens when the user cancels.
+  /// Lets the user choose a colour for one node that has one. Nothing happens when the user cancels. Linear in the size
+  /// of its branch.
   virtual void ChangeNodeColor(const char* node);
 
   /// The node type of a colour, defined when it is first asked for. "mix" for none, and when it cannot be defined.

@@ -116,6 +116,7 @@ class OXECAD_UI_EXPORT CompareColorTree : public Tree {
   bool AddNodeBefore(const CompareNodeInfo& info, const char* before);
 
   /// Gives six values to a compare node and its branch, and sums up above. Does nothing for any other node.
+  /// Linear in the size of the branch, and in the number of children of each ancestor looked at.
   void ChangeNodeInfo(const char* node, unsigned int colorA, unsigned int colorB, unsigned int colorOverlap,
                       ShowMode showMode, NodeState dim, DesignFlag designFlag);
   /// Accepts and ignores a list of nodes.

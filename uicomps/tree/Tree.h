@@ -206,9 +206,11 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
 
   /// The number of the root's children, 0 without a root.
   int GetNoOfChildren() const;
-  /// Replaces `names` by the children's names, in the tree's order; gives their count, 0 on failure.
+  /// Replaces `names` by the children's names, in the tree's order; gives their count, 0 on failure. Linear in
+  /// their number.
   int GetChildren(const char* node, std::vector<std::string>& names) const;
   /// Replaces `infos` by the children's records; one that cannot be read stands as a default record. False for null.
+  /// Linear in their number.
   bool GetChildren(const char* node, std::vector<NodeInfo>& infos) const;
   /// Appends the leaves of a branch, depth first, and gives their number; a node without children is its own leaf. Null
   /// means the root. Linear in the size of the branch; recursive in its depth.
@@ -216,8 +218,9 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
   /// Appends the records below a node that the filter takes. Linear in what is walked; recursive in its depth.
   void GetBranchInfo(const char* node, TreeInfo& info, const NodeFilter& filter) const;
   /// Appends the records of the whole tree that the filter takes; asks it about the root only with `includeRoot`.
+  /// Linear in what is walked; recursive in its depth.
   void GetTreeInfo(TreeInfo& info, const NodeFilter& filter, bool includeRoot) const;
-  /// Appends the records below the root that `CheckedOnly` takes.
+  /// Appends the records below the root that `CheckedOnly` takes. Linear in what is walked; recursive in its depth.
   void GetCheckedNodes(TreeInfo& info) const;
 
   /// The toolkit's callback for a toggled check box: -1 for null, otherwise the result of reading the node.

@@ -62,7 +62,8 @@ class OXECAD_UI_EXPORT UserDataTree : public Tree {
   void Set(const TreeInfo& info);
 
   /// Appends the data of the nodes that the filter takes, the root's included, without values equal to `ignore`. With
-  /// `unique`, the whole of `out`, what was there before included, ends sorted and without duplicates.
+  /// `unique`, the whole of `out`, what was there before included, ends sorted and without duplicates. Linear in what
+  /// is walked, but for the sorting.
   void GetData(std::vector<void*>& out, void* ignore, bool unique, const NodeFilter& filter) const;
 
   /// Adds one to the number of each ancestor of a leaf. Linear in the leaf's depth.

@@ -1,5 +1,6 @@
 // One leaf changes again and again, and what is above it sums it up.
 #include <memory>
+#include <utility>
 
 #include "bench/reporting/Floors.h"
 #include "bench/reporting/Numbers.h"
@@ -12,43 +13,59 @@ namespace {
 
 using oxecad_ui::ColorTree;
 
+constexpr unsigned int kOld = 0x0000FFu;
 constexpr unsigned int kNew = 0x00FFFFu;
 constexpr std::size_t kChanges = 1000;
 constexpr std::size_t kOperations = 2 * kChanges;  // there and back
 constexpr int kRepetitions = 11;
 
-/// Neighbouring groups differ: above them the tree is mixed.
-unsigned int ColorOfGroup(std::size_t group) { return static_cast<unsigned int>(group % 16) << 4; }
+/// Ten children to a node, one below the other; all of one colour, but the last leaf now and then.
+class Tens {
+ public:
+  explicit Tens(std::size_t nodes) {
+    for (std::size_t node = 0; node < nodes; ++node) m_names.push_back("n" + std::to_string(node));
+  }
+  std::size_t Size() const { return m_names.size(); }
+  const std::string& Name(std::size_t node) const { return m_names[node]; }
+  static std::size_t Parent(std::size_t node) { return (node - 1) / 10; }
+  const std::string& Leaf() const { return m_names.back(); }
 
-/// The last leaf of a group in the middle: all its siblings have to be looked at.
-std::size_t ChangingNet(const GroupedNets& nets) { return nets.nets.names.size() - nets.groups / 2; }
+ private:
+  std::vector<std::string> m_names;
+};
 
-unsigned int OldColor(const GroupedNets& nets) { return ColorOfGroup(nets.GroupOf(ChangingNet(nets))); }
-
-Contender Ours(const GroupedNets& nets) {
+Contender Ours(const Tens& tens) {
   auto tree = std::make_shared<Staged<ColorTree>>();
-  using Info = ColorTree::ColorNodeInfo;
-  tree->AddNodes(RecordsOf<Info>(nets, [](Info& record, std::size_t group) { record.color = ColorOfGroup(group); }));
-  Check(NodesOnStage() == nets.Nodes() && tree->GetNodeColor("root") == kMixed, "all nodes were added and summed up");
-  return {"ChangeNodeColor", [tree, leaf = nets.nets.names[ChangingNet(nets)], old = OldColor(nets)](Meter& meter) {
+  for (std::size_t node = 0; node < tens.Size(); ++node) {
+    const std::string parent = node == 0 ? std::string() : tens.Name(Tens::Parent(node));
+    tree->AddNode(tens.Name(node).c_str(), L"net", parent.c_str(), kOld, 0, L"", 1, 0);
+  }
+  Check(NodesOnStage() == tens.Size() && tree->GetNodeColor("n0") == kOld, "all nodes were added and summed up");
+  return {"ChangeNodeColor", [tree, leaf = tens.Leaf()](Meter& meter) {
             ColorTree& colors = *tree;
             meter.Run([&] {
               for (std::size_t change = 0; change < kChanges; ++change) {
                 colors.ChangeNodeColor(leaf.c_str(), kNew);
-                colors.ChangeNodeColor(leaf.c_str(), old);
+                colors.ChangeNodeColor(leaf.c_str(), kOld);
               }
             });
+            Check(colors.GetNodeColor("n0") == kOld, "the root follows its leaf");
           }};
 }
 
-Contender Model(const GroupedNets& nets) {
+Contender Model(const Tens& tens) {
   struct Filled {
     QStandardItemModel model;
     ColorIcons icons;
   };
   auto filled = std::make_shared<Filled>();
-  const GroupedItems items(*filled->model.invisibleRootItem(), nets, filled->icons, ColorOfGroup);
-  return {"QStandardItemModel", [filled, leaf = items.nets[ChangingNet(nets)], old = OldColor(nets)](Meter& meter) {
+  std::vector<QStandardItem*> items;
+  for (std::size_t node = 0; node < tens.Size(); ++node) {
+    QStandardItem& parent = node == 0 ? *filled->model.invisibleRootItem() : *items[Tens::Parent(node)];
+    items.push_back(AppendItem(parent, QStringLiteral("net")));
+    SetColor(*items.back(), kOld, filled->icons);
+  }
+  return {"QStandardItemModel", [filled, leaf = items.back()](Meter& meter) {
             const auto give = [&](unsigned int color) {
               SetColor(*leaf, color, filled->icons);
               SumUpColors(leaf->parent(), filled->icons);
@@ -56,34 +73,26 @@ Contender Model(const GroupedNets& nets) {
             meter.Run([&] {
               for (std::size_t change = 0; change < kChanges; ++change) {
                 give(kNew);
-                give(old);
+                give(kOld);
               }
             });
           }};
 }
 
 /// The widget's own summary, of check boxes.
-Contender Widget(const GroupedNets& nets) {
+Contender Widget(const Tens& tens) {
   auto widget = std::make_shared<QTreeWidget>();
-  const auto append = [](QTreeWidgetItem& parent) {
-    QTreeWidgetItem* const item = AppendItem(parent, QStringLiteral("net"));
-    item->setFlags(item->flags() | Qt::ItemIsUserCheckable | Qt::ItemIsAutoTristate);
-    item->setCheckState(0, Qt::Unchecked);
-    return item;
-  };
-  QTreeWidgetItem* const root = append(*widget->invisibleRootItem());
-  for (std::size_t group = 0; group < nets.groups; ++group) append(*root);
   std::vector<QTreeWidgetItem*> items;
-  for (std::size_t net = 0; net < nets.nets.names.size(); ++net) {
-    const std::size_t group = nets.GroupOf(net);
-    items.push_back(append(*root->child(static_cast<int>(group))));
-    items.back()->setCheckState(0, group % 2 == 0 ? Qt::Checked : Qt::Unchecked);
+  for (std::size_t node = 0; node < tens.Size(); ++node) {
+    QTreeWidgetItem& parent = node == 0 ? *widget->invisibleRootItem() : *items[Tens::Parent(node)];
+    items.push_back(AppendItem(parent, QStringLiteral("net")));
+    items.back()->setFlags(items.back()->flags() | Qt::ItemIsUserCheckable | Qt::ItemIsAutoTristate);
+    items.back()->setCheckState(0, Qt::Unchecked);
   }
-  return {"auto-tristate QTreeWidget", [widget, root, leaf = items[ChangingNet(nets)]](Meter& meter) {
-            const Qt::CheckState old = leaf->checkState(0);
+  return {"auto-tristate QTreeWidget", [widget, root = items.front(), leaf = items.back()](Meter& meter) {
             meter.Run([&] {
               for (std::size_t change = 0; change < kChanges; ++change) {
-                for (const Qt::CheckState state : {old == Qt::Checked ? Qt::Unchecked : Qt::Checked, old}) {
+                for (const Qt::CheckState state : {Qt::Checked, Qt::Unchecked}) {
                   leaf->setCheckState(0, state);
                   Keep(root->checkState(0));
                 }
@@ -92,8 +101,8 @@ Contender Widget(const GroupedNets& nets) {
           }};
 }
 
-/// Children are read by name until one differs.
-void SumUp(NamedNodes<unsigned int>& nodes, const std::string& name) {
+/// Children are read by name until one differs; gives whether the summary is another one now.
+bool SumUp(NamedNodes<unsigned int>& nodes, const std::string& name) {
   const auto& children = nodes.Children(name);
   unsigned int summary = nodes.At(children.front());
   for (const std::string& child : children) {
@@ -102,20 +111,24 @@ void SumUp(NamedNodes<unsigned int>& nodes, const std::string& name) {
       break;
     }
   }
-  nodes.At(name) = summary;
+  return std::exchange(nodes.At(name), summary) != summary;
 }
 
-Contender FloorByName(const GroupedNets& nets) {
-  const auto nodes = std::make_shared<NamedNodes<unsigned int>>(nets, ColorOfGroup);
-  const std::size_t net = ChangingNet(nets);
-  return {"by name", [nodes, leaf = nets.nets.names[net], group = GroupName(nets.GroupOf(net)),
-                      old = OldColor(nets)](Meter& meter) {
+Contender FloorByName(const Tens& tens) {
+  const auto nodes = std::make_shared<NamedNodes<unsigned int>>();
+  for (std::size_t node = 0; node < tens.Size(); ++node) {
+    nodes->Add(tens.Name(node), node == 0 ? std::string() : tens.Name(Tens::Parent(node)), kOld);
+  }
+  std::vector<std::string> above;
+  for (std::size_t node = tens.Size() - 1; node != 0;) above.push_back(tens.Name(node = Tens::Parent(node)));
+  return {"by name", [nodes, above, leaf = tens.Leaf()](Meter& meter) {
             meter.Run([&] {
               for (std::size_t change = 0; change < kChanges; ++change) {
-                for (const unsigned int color : {kNew, old}) {
+                for (const unsigned int color : {kNew, kOld}) {
                   nodes->At(leaf) = color;
-                  SumUp(*nodes, group);
-                  SumUp(*nodes, "root");
+                  for (const std::string& ancestor : above) {
+                    if (!SumUp(*nodes, ancestor)) break;
+                  }
                 }
               }
             });
@@ -125,9 +138,9 @@ Contender FloorByName(const GroupedNets& nets) {
 }  // namespace
 
 Figures MeasureLeafChange(const Settings& settings) {
-  const GroupedNets nets = GroupedNets::OfNodes(settings.Size(100'000));
-  const auto outcomes = Race({Ours(nets), Model(nets), FloorByName(nets), Widget(nets)}, kOperations, kRepetitions);
-  const std::string workload = "one leaf's colour changes below " + Grouped(nets.Nodes()) + " nodes";
+  const Tens tens(settings.Size(100'000));
+  const auto outcomes = Race({Ours(tens), Model(tens), FloorByName(tens), Widget(tens)}, kOperations, kRepetitions);
+  const std::string workload = "one leaf's colour changes below " + Grouped(tens.Size()) + " nodes, ten to a parent";
   return {AgainstPeer(WithOther(WithFloor(FigureOf(7, workload, outcomes), outcomes[2]), outcomes[3]), 1.4)};
 }
 
