@@ -98,6 +98,25 @@ QTreeView& OurView::View() { return panel_->View(); }
 
 // --- A Qt programmer's -----------------------------------------------------------------------------------------------
 
+namespace {
+
+class NetItem : public QStandardItem {
+ public:
+  NetItem(const QString& text, const QCollator& collator) : QStandardItem(text), collator_(collator) {}
+  bool operator<(const QStandardItem& other) const override { return collator_.compare(text(), other.text()) < 0; }
+
+ private:
+  QCollator collator_;  // its data is shared by all items
+};
+
+std::vector<std::size_t> AsTheyCome(const NetsToShow& shown) {
+  std::vector<std::size_t> order(shown.nets.texts.size());
+  std::iota(order.begin(), order.end(), std::size_t{0});
+  return order;
+}
+
+}  // namespace
+
 PeerView::PeerView() {
   view_.setUniformRowHeights(true);
   view_.setHeaderHidden(true);
@@ -112,27 +131,35 @@ PeerView::~PeerView() {
   view_.setParent(nullptr);
 }
 
-void PeerView::Fill(const NetsToShow& shown) {
-  const std::vector<QString>& texts = shown.nets.texts;
-  const QCollator collator = NaturalCollator();
-  std::vector<std::size_t> order(texts.size());
-  std::iota(order.begin(), order.end(), std::size_t{0});
-  std::vector<QCollatorSortKey> keys;
-  keys.reserve(texts.size());
-  for (const QString& text : texts) keys.push_back(collator.sortKey(text));
-  std::sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) { return keys[a] < keys[b]; });
+void PeerView::Fill(const NetsToShow& shown) { FillInOrder(shown, AsTheyCome(shown), true); }
 
+void KeySortedPeerView::Fill(const NetsToShow& shown) {
+  const QCollator collator = NaturalCollator();
+  std::vector<QCollatorSortKey> keys;
+  keys.reserve(shown.nets.texts.size());
+  for (const QString& text : shown.nets.texts) keys.push_back(collator.sortKey(text));
+  std::vector<std::size_t> order = AsTheyCome(shown);
+  std::sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) { return keys[a] < keys[b]; });
+  FillInOrder(shown, order, false);
+}
+
+void PeerView::FillInOrder(const NetsToShow& shown, const std::vector<std::size_t>& order, bool sorts) {
+  const QCollator collator = NaturalCollator();
   auto* const root = new QStandardItem(QStringLiteral("Nets"));
   std::vector<QList<QStandardItem*>> children(shown.parents);
-  items_.resize(texts.size());
+  items_.resize(order.size());
   for (const std::size_t net : order) {
-    items_[net] = new QStandardItem(texts[net]);
+    items_[net] = new NetItem(shown.nets.texts[net], collator);
     children[net % shown.parents].append(items_[net]);
   }
+  const auto fill = [sorts](QStandardItem& parent, const QList<QStandardItem*>& nets) {
+    parent.appendRows(nets);
+    if (sorts) parent.sortChildren(0);
+  };
   if (shown.parents == 1) {
-    root->appendRows(children.front());
+    fill(*root, children.front());
   } else {
-    for (const QList<QStandardItem*>& group : children) AppendItem(*root, QStringLiteral("Group"))->appendRows(group);
+    for (const QList<QStandardItem*>& group : children) fill(*AppendItem(*root, QStringLiteral("Group")), group);
   }
   model_.appendRow(root);
   view_.setModel(&model_);

@@ -74,7 +74,7 @@ class OurView : public NetView {
   std::optional<oxecad_ui::Tree> tree_;
 };
 
-/// A QTreeView on a QStandardItemModel, with a filter between.
+/// A QTreeView on a QStandardItemModel, with a filter between. The items compare themselves when the model sorts them.
 class PeerView : public NetView {
  public:
   PeerView();
@@ -87,11 +87,21 @@ class PeerView : public NetView {
   void Filter(const QString& text) override;
   QTreeView& View() override { return view_; }
 
+ protected:
+  /// Puts the nets below their parents, and shows them.
+  void FillInOrder(const NetsToShow& shown, const std::vector<std::size_t>& order, bool sorts);
+
  private:
   QStandardItemModel model_;
   QSortFilterProxyModel proxy_;
   QTreeView view_;
   std::vector<QStandardItem*> items_;
+};
+
+/// The same, sorted before there is a model, with a key for each text.
+class KeySortedPeerView : public PeerView {
+ public:
+  void Fill(const NetsToShow& shown) override;
 };
 
 }  // namespace oxecad_bench

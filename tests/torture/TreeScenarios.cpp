@@ -132,16 +132,16 @@ void Sorting(Stage& stage) {
              [&] { return tree->AddEcadNode("lost", L"lost", nullptr, Tree::ByLabel, "t", L"", 1, 0, 0, nullptr); });
   stage.Step("add once more",
              [&] { return tree->AddEcadNode("n5", L"R5", "root", Tree::ByLabel, "t", L"", 1, 0, 0, nullptr); });
-  const auto node = [](const char* name, const wchar_t* label, const char* parent) {
+  const auto below = [](const char* name, const wchar_t* label, const char* parent) {
     return Tree::EcadNode{name, label, parent, "t", L"", 1, 0, 0, nullptr};
   };
   const std::vector<Tree::EcadNode> nodes = {
-      node("b2", L"R2", "root"),    node("b30", L"R30", "root"),
-      node("b2/1", L"pin 1", "b2"), node("b2/10", L"pin 10 with a label that is long enough for the heap", "b2"),
-      node("b2/2", L"pin 2", "b2"), node("b2", L"again", "root"),
-      node("b4", L"R4", "nowhere"), node(nullptr, L"R6", "root"),
-      node("b7", L"R7", nullptr),   node("b2/3", L"pin 3", "b2"),
-      node("b8", L"R8", "root")};
+      below("b2", L"R2", "root"),    below("b30", L"R30", "root"),
+      below("b2/1", L"pin 1", "b2"), below("b2/10", L"pin 10 with a label that is long enough for the heap", "b2"),
+      below("b2/2", L"pin 2", "b2"), below("b2", L"again", "root"),
+      below("b4", L"R4", "nowhere"), below(nullptr, L"R6", "root"),
+      below("b7", L"R7", nullptr),   below("b2/3", L"pin 3", "b2"),
+      below("b8", L"R8", "root")};
   stage.StepOfAnyResult("add many sorted", [&] { return tree->AddEcadNodes(nodes, Tree::ByLabel); });
   stage.StepOfAnyResult("sort", [&] { return tree->SortNodesByType("root", Tree::ByLabel); });
   std::vector<Tree::NodeInfo> records;

@@ -54,8 +54,11 @@ Contender ShowNets(std::string name, const NetsToShow& shown) {
 }
 
 Figure MeasureShown(const NetsToShow& shown, const std::string& nets) {
-  const auto outcomes = Race({ShowNets<OurView>("ours", shown), ShowNets<PeerView>(kPeer, shown)}, 1);
-  return AgainstPeer(FigureOf(kRow, nets + " from empty to the first painted frame", outcomes), 0.5);
+  const auto outcomes = Race({ShowNets<OurView>("ours", shown), ShowNets<PeerView>(kPeer, shown),
+                              ShowNets<KeySortedPeerView>("the same, sorted by keys before", shown)},
+                             1);
+  const Figure figure = FigureOf(kRow, nets + " from empty to the first painted frame", outcomes);
+  return AgainstPeer(WithOther(figure, outcomes[2]), 0.5);
 }
 
 // --- What follows ----------------------------------------------------------------------------------------------------
