@@ -7,12 +7,8 @@
 #include <viewer/window/TreePanel.h>
 
 #include <QColor>
-#include <QDir>
-#include <QFileInfo>
 #include <QHeaderView>
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QSaveFile>
 
 #include <map>
 #include <string>
@@ -196,22 +192,10 @@ void ApplyView(TreePanel& panel, const QJsonObject& kept) {
 
 }  // namespace
 
-KeptTrees::KeptTrees(QString file) : file_(std::move(file)) {}
-
-QJsonObject KeptTrees::Read() const {
-  QFile file(file_);
-  if (file_.isEmpty() || !file.open(QIODevice::ReadOnly)) return {};
-  QJsonParseError error{};
-  const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
-  if (document.isObject()) return document.object();
-  file.close();
-  QFile::remove(file_ + ".damaged");
-  QFile::rename(file_, file_ + ".damaged");
-  return {};
-}
+KeptTrees::KeptTrees(KeptFile file) : file_(std::move(file)) {}
 
 void KeptTrees::Apply(MainWindow& window) {
-  const QJsonObject kept = Read();
+  const QJsonObject kept = file_.Read();
   if (!window.Session() || kept.isEmpty()) return;
   ApplyLayers(*window.Session(), kept);
   ApplyNets(*window.Session(), kept);
@@ -221,8 +205,8 @@ void KeptTrees::Apply(MainWindow& window) {
 }
 
 bool KeptTrees::Save(const MainWindow& window) {
-  if (file_.isEmpty() || !window.Session()) return true;
-  QJsonObject kept = Read();
+  if (file_.IsNone() || !window.Session()) return true;
+  QJsonObject kept = file_.Read();
   SaveLayers(*window.Session(), kept);
   SaveNets(*window.Session(), kept);
   SaveComparison(*window.Session(), kept);
@@ -233,9 +217,7 @@ bool KeptTrees::Save(const MainWindow& window) {
     trees[name] = tree;
   }
   kept["trees"] = trees;
-  QDir().mkpath(QFileInfo(file_).path());
-  QSaveFile file(file_);
-  return file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(kept).toJson()) >= 0 && file.commit();
+  return file_.Write(kept);
 }
 
 }  // namespace oxviewer

@@ -3,8 +3,7 @@
 #ifndef OXECAD_VIEWER_WINDOW_KEPTTREES_H
 #define OXECAD_VIEWER_WINDOW_KEPTTREES_H
 
-#include <QJsonObject>
-#include <QString>
+#include <viewer/window/KeptFile.h>
 
 namespace oxviewer {
 
@@ -16,19 +15,16 @@ class MainWindow;
 /// over and kept for the next one that has them.
 class KeptTrees {
  public:
-  /// An empty name keeps nothing.
-  explicit KeptTrees(QString file);
+  /// How a file that cannot be read or written is treated: KeptFile.h.
+  explicit KeptTrees(KeptFile file);
 
-  /// Reads the file and makes the trees as it says; a file that is missing says nothing. One that is no JSON is kept
-  /// under its name with ".damaged" behind.
+  /// Reads the file and makes the trees as it says; a file that is missing says nothing.
   void Apply(MainWindow& window);
-  /// Writes the file anew, all at once or not at all. False when it cannot be written.
+  /// Writes the file anew, with what it says of other boards' names. False when it is not written.
   bool Save(const MainWindow& window);
 
  private:
-  QJsonObject Read() const;
-
-  QString file_;
+  KeptFile file_;
 };
 
 }  // namespace oxviewer

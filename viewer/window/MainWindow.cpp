@@ -15,6 +15,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
+#include <QFile>
 #include <QFileInfo>
 #include <QGroupBox>
 #include <QLabel>
@@ -73,7 +74,7 @@ MainWindow::MainWindow(uiox_qt::QtFront& front, const Remembered& remembered, bo
       remembered_(remembered),
       keeps_(keeps),
       mainframe_(std::make_unique<oxcore::Mainframe>(*this)),
-      kept_(std::make_unique<KeptTrees>(QString())),
+      kept_(std::make_unique<KeptTrees>(KeptFile({}, {}))),
       history_(std::make_unique<History>()),
       actions_(std::make_unique<Actions>()),
       view_(new BoardView),
@@ -172,7 +173,11 @@ void MainWindow::MakeStatusBar() {
 }
 
 void MainWindow::KeepTreesIn(const QString& file) {
-  kept_ = std::make_unique<KeptTrees>(file);
+  const auto report = [this](const std::string& line) {
+    PrintError(line);
+    statusBar()->showMessage(QString::fromStdString(line));
+  };
+  kept_ = std::make_unique<KeptTrees>(KeptFile(QFile::encodeName(file).toStdString(), report));
   kept_->Apply(*this);
 }
 

@@ -43,7 +43,7 @@ class MainWindow : public QMainWindow {
   ~MainWindow() override;
 
   /// Keeps what the user makes of the trees in a file from now on (KeptTrees.h): boards that are shown take it from
-  /// there.
+  /// there. What is wrong with the file is told on standard error and in the status bar.
   void KeepTreesIn(const QString& file);
   /// Shows boards instead of those that were there; without `boards.a`, none.
   void ShowBoards(LoadedBoards boards);

@@ -1,5 +1,6 @@
 #include <QFile>
 #include <QHeaderView>
+#include <QStatusBar>
 
 #include <gtest/gtest.h>
 #include <tests/viewer/window/WindowFixture.h>
@@ -84,9 +85,27 @@ TEST_F(KeptTreesTest, DamagedFileIsPutAside) {
   Window().KeepTreesIn(file_);
   Show(SmallBoard(kWindowBoard));
   EXPECT_TRUE(Session().Trees().Layers().IsVisible(0));
-  EXPECT_TRUE(QFile::exists(file_ + ".damaged"));
+  EXPECT_TRUE(QFile::exists(file_ + ".damaged-1"));
+  EXPECT_TRUE(Window().statusBar()->currentMessage().contains("trees.json.damaged-1"));
   Window().close();
   EXPECT_TRUE(QFile::exists(file_));
+}
+
+TEST_F(KeptTreesTest, WhatCannotBeReadAndCannotBeMovedStaysAsItIs) {
+  Window().close();
+  // Too long for a name with something behind.
+  file_ = QString::fromStdString(PreferencesFolder()) + '/' + QString(250, 'x');
+  QFile file(file_);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("damage");
+  file.close();
+  Restart();
+  ClickCheckBox(Window().LayersPanel(), "layer:F.Cu");
+  Restart();
+  EXPECT_TRUE(Session().Trees().Layers().IsVisible(0));
+  Window().close();
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  EXPECT_EQ(file.readAll(), "damage");
 }
 
 TEST_F(KeptTreesTest, FileThatSaysNonsenseChangesNothing) {
