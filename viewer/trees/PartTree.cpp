@@ -159,6 +159,14 @@ void PartTree::SelectAgain() {
   if (selected_ != before && onSelection_) onSelection_();
 }
 
+void PartTree::RestoreSelection(const std::vector<std::string>& nodes) {
+  for (const std::string& node : selectedNodes_) {
+    wire::SetNode(oxecad_ui::WidgetOf(*this), node.c_str(), wire::kNodeHighlighted(0));
+  }
+  selectedNodes_ = nodes;
+  SelectAgain();
+}
+
 std::vector<const oxviewer::Component*> PartTree::Shown() const {
   std::vector<void*> data;
   GetData(data, nullptr, false, LeavesOnly());

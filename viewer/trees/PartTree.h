@@ -57,6 +57,12 @@ class PartTree : public oxecad_ui::UserDataTree {
   /// The components selected; a kind stands for all of its components that are shown.
   const std::vector<const oxviewer::Component*>& Selected() const { return selected_; }
 
+  /// The nodes that the user has selected, whether a filter shows them or not.
+  const std::vector<std::string>& SelectedNodes() const { return selectedNodes_; }
+  /// Selects these nodes instead; those that a filter hides are selected when they are shown again. Tells of it as if
+  /// the user had done it, where other components are selected than before.
+  void RestoreSelection(const std::vector<std::string>& nodes);
+
   void OnActivate(const char* node) override;
   void OnSelect(int count, char** nodes, int kind) override;
 

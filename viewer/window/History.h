@@ -3,6 +3,7 @@
 #ifndef OXECAD_VIEWER_WINDOW_HISTORY_H
 #define OXECAD_VIEWER_WINDOW_HISTORY_H
 
+#include <viewer/window/NameSelection.h>
 #include <viewer/window/TreeMemory.h>
 
 #include <QObject>
@@ -28,6 +29,11 @@ class History : public QObject {
 
   /// Follows a filled tree from now on, as long as it lives or until `Clear`.
   void Follow(uiox::TreeWidget& tree, TreeMemory::Objects objects = {});
+  /// Follows the selection of a tree whose nodes come and go, by their names. `write` makes it what `read` gave before;
+  /// both are called until `Clear`. Changes are found when they are noted.
+  void FollowSelection(NameSelection::Read read, NameSelection::Write write);
+  /// A selection that is followed by names may have changed.
+  void Note();
   /// Forgets all steps and trees; before the trees are filled anew.
   void Clear();
 
@@ -45,11 +51,17 @@ class History : public QObject {
   void Restored();
 
  private:
-  using Step = std::vector<TreeStep>;  // by tree
+  struct Step {
+    std::vector<TreeStep> trees;
+    std::vector<NameStep> selections;
+    bool Any() const;
+  };
 
+  Step Take();
   void Put(std::deque<Step>& from, std::deque<Step>& to, bool before);
 
   std::vector<std::unique_ptr<TreeMemory>> trees_;
+  std::vector<NameSelection> selections_;
   std::deque<Step> done_;
   std::deque<Step> undone_;
   QTimer settle_;

@@ -58,7 +58,10 @@ void MainWindow::ConnectTrees() {
   trees.Layers().SetOnSelection([this] { UpdateActions(); });
   trees.Nets().SetOnSelection([this] { ShowSelection(); });
   trees.Components().SetOnSelection([this] { ShowSelection(); });
-  trees.Parts().SetOnSelection([this] { ShowSelection(); });
+  trees.Parts().SetOnSelection([this] {
+    history_->Note();
+    ShowSelection();
+  });
   trees.Nets().SetOnActivation([this](const void*) { ShowPart(session_->Selection()); });
   trees.Components().SetOnActivation([this](const void*) { ShowPart(session_->Selection()); });
   trees.Parts().SetOnActivation([this](const Component&) { ShowPart(session_->Selection()); });
@@ -77,6 +80,9 @@ void MainWindow::FollowTrees() {
   history_->Follow(*layers_->View().Tree());
   history_->Follow(*nets_->View().Tree(), objects(session_->Trees().Nets()));
   history_->Follow(*components_->View().Tree(), objects(session_->Trees().Components()));
+  PartTree& parts = session_->Trees().Parts();  // a filter makes its nodes anew
+  history_->FollowSelection([&parts] { return parts.SelectedNodes(); },
+                            [&parts](const std::vector<std::string>& nodes) { parts.RestoreSelection(nodes); });
   if (session_->IsComparing()) history_->Follow(*compare_->Panel().View().Tree());
 }
 
