@@ -124,6 +124,7 @@ std::string PointerNames::Of(const void* pointer) {
   if (!pointer) return "null";
   const auto number = reinterpret_cast<std::uintptr_t>(pointer);
   if (number <= 0xFFFFFFFFu) return Hex(number);
+  if (unnamed_ == AllAlike) return "pointer";
   return pointers_[pointer] = "p" + std::to_string(++next_);
 }
 

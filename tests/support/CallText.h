@@ -17,11 +17,17 @@ namespace test_support {
 /// hexadecimal, since colours and indexes travel as pointers.
 class PointerNames {
  public:
+  /// Whether pointers without a name are told from each other. Where blocks end meanwhile, the allocator decides which
+  /// of them are the same.
+  enum Unnamed { Numbered, AllAlike };
+  explicit PointerNames(Unnamed unnamed = Numbered) : unnamed_(unnamed) {}
+
   void Name(const void* pointer, std::string name) { pointers_[pointer] = std::move(name); }
   std::string Of(const void* pointer);
   std::string Of(ui_callback callback);
 
  private:
+  const Unnamed unnamed_;
   std::map<const void*, std::string> pointers_;
   std::map<ui_callback, std::string> callbacks_;
   std::size_t next_ = 0;

@@ -1,26 +1,14 @@
 // Every call to the toolkit fails in turn, in every way, once and from then on; then every allocation.
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
+#include <tests/torture/ChildProcess.h>
 #include <tests/torture/Scenarios.h>
-#include <unistd.h>
 
-#include <cstdio>
 #include <cstdlib>
-#include <functional>
 #include <iostream>
 #include <sstream>
 
 namespace torture {
-
-std::vector<Scenario> AllScenarios() {
-  std::vector<Scenario> all;
-  for (const auto& family : {BaseTreeScenarios(), TreeScenarios(), ColorScenarios(), CompareScenarios(),
-                             UserDataScenarios(), DialogScenarios()}) {
-    all.insert(all.end(), family.begin(), family.end());
-  }
-  return all;
-}
 
 namespace {
 
@@ -42,38 +30,6 @@ struct Totals {
   long allocations = 0;
   long Injections() const { return calls * kCallWays + allocations * kAllocationWays; }
 };
-
-/// Runs a scenario in a process of its own; gives what it wrote.
-std::vector<std::string> InChild(const std::function<std::vector<std::string>()>& run) {
-  int ends[2];
-  if (pipe(ends) != 0) return {"there is no pipe"};
-  std::cout.flush();
-  const pid_t child = fork();
-  if (child < 0) return {"there is no process"};
-  if (child == 0) {
-    close(ends[0]);
-    std::string text;
-    for (const std::string& line : run()) text += line + '\n';
-    const bool written = write(ends[1], text.data(), text.size()) == static_cast<ssize_t>(text.size());
-    _exit(written ? 0 : 1);
-  }
-  close(ends[1]);
-  std::string text;
-  char buffer[4096];
-  for (ssize_t got; (got = read(ends[0], buffer, sizeof buffer)) > 0;)
-    text.append(buffer, static_cast<std::size_t>(got));
-  close(ends[0]);
-  int status = 0;
-  waitpid(child, &status, 0);
-  std::vector<std::string> lines;
-  for (std::size_t at = 0; at < text.size();) {
-    const std::size_t end = text.find('\n', at);
-    lines.push_back(text.substr(at, end - at));
-    at = end + 1;
-  }
-  if (status != 0) lines.push_back("the process ended with status " + std::to_string(status));
-  return lines;
-}
 
 class Torture : public testing::TestWithParam<Scenario> {
  protected:
