@@ -47,4 +47,8 @@ void CreatePanels(const TranslateText& translate) {
   }
 }
 
+void RemovePanels() {
+  for (const Panel& panel : kPanels) uiox::Suite::Get().DestroyDevice(panel.device);
+}
+
 }  // namespace oxviewer

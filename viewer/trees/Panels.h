@@ -24,6 +24,9 @@ using TranslateText = std::function<std::string(const std::string&)>;
 /// titles and labels translated. Throws std::logic_error, which says why, when a description is wrong.
 void CreatePanels(const TranslateText& translate = {});
 
+/// Ends the viewer's devices, so that they can be made anew. Nothing may work on them any more.
+void RemovePanels();
+
 /// A resource of the program by its file name ("layers.json"); empty when there is none.
 std::string_view EmbeddedResource(std::string_view name);
 

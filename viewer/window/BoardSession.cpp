@@ -177,6 +177,11 @@ void BoardSession::Isolate(bool add) {
   isolated_.Add(Selection());
 }
 
+void BoardSession::SetMarks(const Marks& highlighted, const Marks& isolated) {
+  highlighted_ = highlighted;
+  isolated_ = isolated;
+}
+
 void BoardSession::ClearMarks() {
   highlighted_ = {};
   isolated_ = {};

@@ -43,6 +43,8 @@ class BoardSession {
   /// Makes the selection the set, or adds it to the set.
   void Highlight(bool add);
   void Isolate(bool add);
+  /// What was highlighted and isolated in another session with the same boards.
+  void SetMarks(const Marks& highlighted, const Marks& isolated);
   /// Nothing is highlighted or isolated any more.
   void ClearMarks();
 

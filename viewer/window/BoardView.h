@@ -36,6 +36,8 @@ class BoardView : public QWidget {
 
   const Viewport& CurrentViewport() const { return viewport_; }
   void SetViewport(const Viewport& viewport);
+  /// Whether the whole board is shown whatever the size of the view, since nobody has moved it.
+  bool IsFitted() const { return fitted_; }
   void FitAll();
   void FitTo(const QRectF& area);
   void ZoomBy(double factor);

@@ -63,6 +63,10 @@ void ComparePanel::SetTree(CompareTree* tree) {
   differencesOnly_->setEnabled(differences > 0);
 }
 
+bool ComparePanel::ShowsDifferencesOnly() const { return differencesOnly_->isChecked(); }
+
+void ComparePanel::SetDifferencesOnly(bool only) { differencesOnly_->setChecked(only); }
+
 bool ComparePanel::IsShown(std::size_t subject, const TextMatcher& matcher) const {
   return (!differencesOnly_->isChecked() || tree_->Subjects()[subject].differs) &&
          tree_->Matches(subject, [&](std::string_view text) { return matcher.MatchesUtf8(text); });

@@ -31,6 +31,8 @@ class ComparePanel : public QWidget {
   /// Works on a tree; null: on none.
   void SetTree(CompareTree* tree);
   TreePanel& Panel() const { return *panel_; }
+  bool ShowsDifferencesOnly() const;
+  void SetDifferencesOnly(bool only);
 
   /// Selects the next difference that the filter leaves, after what is selected and round the end.
   void GoToNext() { Go(false); }

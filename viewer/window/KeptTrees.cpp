@@ -192,21 +192,8 @@ void ApplyView(TreePanel& panel, const QJsonObject& kept) {
 
 }  // namespace
 
-KeptTrees::KeptTrees(KeptFile file) : file_(std::move(file)) {}
-
-void KeptTrees::Apply(MainWindow& window) {
-  const QJsonObject kept = file_.Read();
-  if (!window.Session() || kept.isEmpty()) return;
-  ApplyLayers(*window.Session(), kept);
-  ApplyNets(*window.Session(), kept);
-  ApplyComparison(*window.Session(), kept);
-  const QJsonObject trees = kept["trees"].toObject();
-  for (const auto& [name, panel] : PanelsOf(window)) ApplyView(*panel, trees[name].toObject());
-}
-
-bool KeptTrees::Save(const MainWindow& window) {
-  if (file_.IsNone() || !window.Session()) return true;
-  QJsonObject kept = file_.Read();
+QJsonObject TreesOf(const MainWindow& window, QJsonObject kept) {
+  if (!window.Session()) return kept;
   SaveLayers(*window.Session(), kept);
   SaveNets(*window.Session(), kept);
   SaveComparison(*window.Session(), kept);
@@ -217,7 +204,26 @@ bool KeptTrees::Save(const MainWindow& window) {
     trees[name] = tree;
   }
   kept["trees"] = trees;
-  return file_.Write(kept);
+  return kept;
+}
+
+void PutTrees(MainWindow& window, const QJsonObject& kept) {
+  if (!window.Session() || kept.isEmpty()) return;
+  ApplyLayers(*window.Session(), kept);
+  ApplyNets(*window.Session(), kept);
+  ApplyComparison(*window.Session(), kept);
+  const QJsonObject trees = kept["trees"].toObject();
+  for (const auto& [name, panel] : PanelsOf(window)) ApplyView(*panel, trees[name].toObject());
+}
+
+KeptTrees::KeptTrees(KeptFile file) : file_(std::move(file)) {}
+
+void KeptTrees::Apply(MainWindow& window) { PutTrees(window, file_.Read()); }
+
+bool KeptTrees::Save(const MainWindow& window) {
+  if (file_.IsNone() || !window.Session()) return true;
+  const QJsonObject kept = file_.Read();
+  return file_.Write(TreesOf(window, kept));
 }
 
 }  // namespace oxviewer

@@ -9,6 +9,11 @@ namespace oxviewer {
 
 class MainWindow;
 
+/// What a window's trees are like, added to what is kept of other boards' names.
+QJsonObject TreesOf(const MainWindow& window, QJsonObject kept = {});
+/// Makes a window's trees as they were.
+void PutTrees(MainWindow& window, const QJsonObject& kept);
+
 /// Keeps what the user has made of the trees in a JSON file: which layers are shown and in which colours, the colours
 /// of nets, how a comparison is shown, which nodes are expanded, what stands in the filter lines, and how wide the
 /// columns are. Everything is kept by the nodes' names, whatever the board; names that a board does not have are passed

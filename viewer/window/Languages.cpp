@@ -25,6 +25,20 @@ std::unique_ptr<TableTranslator> TranslatorFor(const std::string& language) {
   return std::make_unique<TableTranslator>(EmbeddedResource("language-de.json"));
 }
 
+void UseLanguage(const std::string& language) {
+  QCoreApplication* const application = QCoreApplication::instance();
+  const QString name = QStringLiteral("oxviewer.language");
+  if (auto* former = application->findChild<QTranslator*>(name, Qt::FindDirectChildrenOnly)) {
+    QCoreApplication::removeTranslator(former);
+    delete former;
+  }
+  std::unique_ptr<TableTranslator> translator = TranslatorFor(language);
+  if (!translator) return;
+  translator->setObjectName(name);
+  translator->setParent(application);
+  QCoreApplication::installTranslator(translator.release());
+}
+
 std::string TranslatedResourceText(const std::string& text) {
   return QCoreApplication::translate("resources", text.c_str()).toStdString();
 }

@@ -31,6 +31,10 @@ class TableTranslator : public QTranslator {
 /// "system" is the language of the user's desktop.
 std::unique_ptr<TableTranslator> TranslatorFor(const std::string& language);
 
+/// Puts the program's texts in a language from now on; windows are sent an event of it. Names as for `TranslatorFor`.
+/// There must be an application, to which the translator belongs.
+void UseLanguage(const std::string& language);
+
 /// A text of a resource in the program's language.
 std::string TranslatedResourceText(const std::string& text);
 

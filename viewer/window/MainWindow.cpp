@@ -83,13 +83,23 @@ MainWindow::MainWindow(uiox_qt::QtFront& front, const Remembered& remembered, bo
       components_(nullptr),
       parts_(nullptr),
       compare_(nullptr),
-      tabs_(new QTabWidget),
-      splitter_(new QSplitter(Qt::Horizontal)),
+      layerTabs_(nullptr),
+      tabs_(nullptr),
+      splitter_(nullptr),
       place_(new QLabel),
       zoom_(new QLabel),
       facts_(new QLabel) {
   setAcceptDrops(true);
   front_.SetMainWindow(this);
+  for (QLabel* label : {facts_, place_, zoom_}) {
+    label->setContentsMargins(6, 0, 6, 0);
+    statusBar()->addPermanentWidget(label);
+  }
+  ConnectView();
+  Build();
+}
+
+void MainWindow::Build() {
   CreatePanels(&TranslatedResourceText);
   SetTreeTexts(&TranslatedResourceText);
   settings_ = std::make_unique<ViewSettings>(kSettingsPanel);
@@ -98,9 +108,9 @@ MainWindow::MainWindow(uiox_qt::QtFront& front, const Remembered& remembered, bo
   settings_->SetValues(remembered_.view);
   settings_->SetOnChange([this] { TakeSettings(); });
   MakePanels();
-  MakeStatusBar();
   MakeActions();
-  ConnectView();
+  place_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("X 0000.000 mm  Y 0000.000 mm  ")));
+  zoom_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("00000 px/mm ")));
   TakeSettings();
   view_->SetHint(tr("Open a board with Ctrl+O, or drop a .kicad_pcb file here"));
   UpdateActions();
@@ -108,16 +118,25 @@ MainWindow::MainWindow(uiox_qt::QtFront& front, const Remembered& remembered, bo
 }
 
 MainWindow::~MainWindow() {
+  EndSession();
+  ReleaseSettings();
+  front_.SetMainWindow(nullptr);
+}
+
+void MainWindow::EndSession() {
   view_->SetScene(nullptr);
+  view_->SetOverlay(nullptr);
   compare_->SetTree(nullptr);
   history_->Clear();
   session_.reset();
+}
+
+void MainWindow::ReleaseSettings() {
   // The front's widgets are only placed here: another window may show them later.
   if (QWidget* settings = front_.WidgetFor(kSettingsPanel)) {
     settings->hide();
     settings->setParent(nullptr);
   }
-  front_.SetMainWindow(nullptr);
 }
 
 void MainWindow::MakePanels() {
@@ -127,6 +146,7 @@ void MainWindow::MakePanels() {
   parts_ = MakePanel(front_, kObjectsPanel, PartTree::kName, tr("Filter by reference, value or footprint"));
   layers_->View().SetCheckRule(uiox_qt::CheckRule::WithSelection);
   compare_ = new ComparePanel(*front_.TreeViewFor(kComparePanel, CompareTree::kName));
+  connect(compare_, &ComparePanel::DifferenceShown, this, &MainWindow::ShowDifference);
   parts_->SetFilterAction([this](const TextMatcher& matcher) {
     if (!session_) return;
     if (matcher.IsEmpty()) return session_->Trees().Parts().SetFilter(TextTest());
@@ -136,21 +156,23 @@ void MainWindow::MakePanels() {
        {kLayersPanel, kNetsPanel, kComponentsPanel, kObjectsPanel, kComparePanel, kSettingsPanel}) {
     oxecad_ui::wire::ShowDevice(device);
   }
+  tabs_ = new QTabWidget;
   tabs_->setDocumentMode(true);
   tabs_->addTab(nets_, tr("Nets"));
   tabs_->addTab(components_, tr("Components"));
   tabs_->addTab(parts_, tr("Kinds"));
 
-  auto* layerSide = new QTabWidget;
-  layerSide->setDocumentMode(true);
-  layerSide->addTab(layers_, tr("Layers"));
-  layerSide->addTab(front_.WidgetFor(kSettingsPanel), tr("View"));
+  layerTabs_ = new QTabWidget;
+  layerTabs_->setDocumentMode(true);
+  layerTabs_->addTab(layers_, tr("Layers"));
+  layerTabs_->addTab(front_.WidgetFor(kSettingsPanel), tr("View"));
   AlignLabels(front_, kSettingsPanel, {"gridLabel", "lineWidthLabel", "dimLabel", "roomLabel"});
   AlignLabels(front_, kSettingsPanel, {"gridUnit", "lineWidthUnit", "dimUnit", "roomUnit"});
   auto* left = new QSplitter(Qt::Vertical);
-  left->addWidget(layerSide);
+  left->addWidget(layerTabs_);
   left->addWidget(tabs_);
   left->setSizes({1000, 1200});
+  splitter_ = new QSplitter(Qt::Horizontal);
   splitter_->addWidget(left);
   splitter_->addWidget(view_);
   splitter_->addWidget(compare_);
@@ -161,15 +183,6 @@ void MainWindow::MakePanels() {
   splitter_->setSizes({kPanelWidth, 1000, kComparisonWidth});
   compare_->hide();
   setCentralWidget(splitter_);
-}
-
-void MainWindow::MakeStatusBar() {
-  statusBar()->addPermanentWidget(facts_);
-  statusBar()->addPermanentWidget(place_);
-  statusBar()->addPermanentWidget(zoom_);
-  place_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("X 0000.000 mm  Y 0000.000 mm  ")));
-  zoom_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("00000 px/mm ")));
-  for (QLabel* label : {facts_, place_, zoom_}) label->setContentsMargins(6, 0, 6, 0);
 }
 
 void MainWindow::KeepTreesIn(const QString& file) {
@@ -188,12 +201,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 void MainWindow::ShowBoards(LoadedBoards boards) {
   kept_->Save(*this);
-  view_->SetScene(nullptr);
-  view_->SetOverlay(nullptr);
-  compare_->SetTree(nullptr);
-  for (TreePanel* panel : {layers_, nets_, components_, parts_, &compare_->Panel()}) panel->Filter().clear();
-  history_->Clear();
-  session_.reset();
+  for (TreePanel* panel : Panels()) panel->Filter().clear();
+  EndSession();
   if (boards.a) session_ = std::make_unique<BoardSession>(std::move(boards), mainframe_.get());
   compare_->setVisible(session_ && session_->IsComparing());
   if (session_) {

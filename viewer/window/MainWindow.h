@@ -11,6 +11,7 @@
 #include <QMainWindow>
 
 #include <memory>
+#include <vector>
 
 #include <oxcore/Mainframe.h>
 
@@ -32,7 +33,8 @@ class KeptTrees;
 class TreePanel;
 
 /// Trees on the left, the board in the middle, the comparison on the right. What the user does in a tree shows in the
-/// board at once, and a click on the board selects in the trees.
+/// board at once, and a click on the board selects in the trees. Another language is shown at once: all that is seen
+/// stays as it was but for its words; what could be undone is forgotten, since steps hold words too.
 class MainWindow : public QMainWindow {
   Q_OBJECT
 
@@ -61,11 +63,14 @@ class MainWindow : public QMainWindow {
   ComparePanel& Comparison() const { return *compare_; }
 
  protected:
+  /// Shows the window in another language.
+  void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
  private:
+  void Build();
   void MakePanels();
   void MakeActions();
   void MakeFileMenu();
@@ -79,10 +84,13 @@ class MainWindow : public QMainWindow {
   void MakeLanguageMenu(QMenu& menu);
   void MakeLayerMenu(QMenu& menu);
   void MakeContextMenus();
-  void MakeStatusBar();
   void ConnectView();
   void ConnectTrees();
   void FollowTrees();
+  void EndSession();
+  void ReleaseSettings();
+  void Retranslate();
+  std::vector<TreePanel*> Panels() const;
 
   void Redraw();
   void ShowSelection();
@@ -91,6 +99,7 @@ class MainWindow : public QMainWindow {
   void ShowReferences();
   void Pick(QPointF place, double tolerance, bool extend);
   void ShowPart(const Marks& marks);
+  void ShowDifference(std::size_t subject);
   void UpdateActions();
   void UpdateTitle();
   void TakeSettings();
@@ -127,11 +136,13 @@ class MainWindow : public QMainWindow {
   TreePanel* components_;
   TreePanel* parts_;
   ComparePanel* compare_;
+  QTabWidget* layerTabs_;
   QTabWidget* tabs_;
   QSplitter* splitter_;
   QLabel* place_;
   QLabel* zoom_;
   QLabel* facts_;
+  bool otherLanguage_ = false;  // the window is about to be shown in it
 };
 
 }  // namespace oxviewer

@@ -47,9 +47,6 @@ void MainWindow::ConnectView() {
     session_->ReadNetColors();
     Redraw();
   });
-  connect(compare_, &ComparePanel::DifferenceShown, this, [this](std::size_t subject) {
-    view_->FitTo(WithRoom(session_->BoundsOfSubject(subject), remembered_.view.room));
-  });
 }
 
 void MainWindow::ConnectTrees() {
@@ -98,6 +95,10 @@ void MainWindow::ShowSelection() {
 
 void MainWindow::ShowPart(const Marks& marks) {
   if (marks.Any()) view_->FitTo(WithRoom(session_->BoundsOf(marks), remembered_.view.room));
+}
+
+void MainWindow::ShowDifference(std::size_t subject) {
+  view_->FitTo(WithRoom(session_->BoundsOfSubject(subject), remembered_.view.room));
 }
 
 void MainWindow::ShowPlace(QPointF place) {

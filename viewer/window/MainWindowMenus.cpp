@@ -2,6 +2,7 @@
 #include <viewer/window/BoardView.h>
 #include <viewer/window/ComparePanel.h>
 #include <viewer/window/History.h>
+#include <viewer/window/Languages.h>
 #include <viewer/window/Legend.h>
 #include <viewer/window/MainWindow.h>
 #include <viewer/window/MainWindowActions.h>
@@ -13,7 +14,6 @@
 #include <QFileDialog>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QStatusBar>
 #include <QToolBar>
 
 #include <functional>
@@ -137,7 +137,7 @@ void MainWindow::MakeLayerMenu(QMenu& menu) {
 }
 
 void MainWindow::MakeUnitMenu(QMenu& menu) {
-  auto* group = new QActionGroup(this);
+  auto* group = new QActionGroup(&menu);
   const std::pair<DisplayUnit, QString> units[] = {{DisplayUnit::Millimetre, tr("&Millimetres")},
                                                    {DisplayUnit::Mil, tr("Mi&ls")},
                                                    {DisplayUnit::Inch, tr("&Inches")}};
@@ -153,7 +153,7 @@ void MainWindow::MakeUnitMenu(QMenu& menu) {
 }
 
 void MainWindow::MakeThemeMenu(QMenu& menu) {
-  auto* group = new QActionGroup(this);
+  auto* group = new QActionGroup(&menu);
   const std::pair<Theme, QString> themes[] = {
       {Theme::System, tr("As the &system")}, {Theme::Light, tr("&Light")}, {Theme::Dark, tr("&Dark")}};
   for (const auto& [theme, text] : themes) {
@@ -169,7 +169,7 @@ void MainWindow::MakeThemeMenu(QMenu& menu) {
 }
 
 void MainWindow::MakeLanguageMenu(QMenu& menu) {
-  auto* group = new QActionGroup(this);
+  auto* group = new QActionGroup(&menu);
   const std::pair<const char*, QString> languages[] = {
       {"system", tr("As the &system")}, {"en", tr("&English")}, {"de", tr("&German")}};
   for (const auto& [language, text] : languages) {
@@ -179,7 +179,7 @@ void MainWindow::MakeLanguageMenu(QMenu& menu) {
     connect(action, &QAction::triggered, this, [this, chosen = std::string(language)] {
       remembered_.language = chosen;
       Keep();
-      statusBar()->showMessage(tr("The language changes when the program is started again"));
+      UseLanguage(chosen);
     });
   }
 }

@@ -40,8 +40,7 @@ int Show(const LoadedBoards& boards, int& argc, char** argv) {
   QApplication::setApplicationName(QStringLiteral("oxviewer"));
   const Remembered remembered = ReadPreferences();
   ApplyTheme(remembered.theme);
-  const auto translator = TranslatorFor(remembered.language);
-  if (translator) QApplication::installTranslator(translator.get());
+  UseLanguage(remembered.language);
   uiox_qt::QtFront front;
   MainWindow window(front, remembered, true);
   window.resize(boards.b ? 1640 : 1280, 860);

@@ -1,5 +1,6 @@
 #include <viewer/trees/PartKinds.h>
 #include <viewer/trees/TreeTexts.h>
+#include <viewer/window/History.h>
 #include <viewer/window/Languages.h>
 
 #include <QAbstractButton>
@@ -8,6 +9,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMenuBar>
 #include <QTabBar>
 
 #include <gtest/gtest.h>
@@ -15,6 +17,7 @@
 
 #include <set>
 #include <string>
+#include <vector>
 
 #include <uiox_qt/ImageWords.h>
 #include <uiox_qt/NodeWords.h>
@@ -121,6 +124,91 @@ TEST_F(LanguagesTest, GermanHasEveryTextThatIsAskedFor) {
   for (const std::string& text : brackets_.Asked()) {
     EXPECT_TRUE(text.empty() || german->Has(QString::fromStdString(text))) << text;
   }
+}
+
+class LanguageChangeTest : public WindowFixture {
+ protected:
+  void TearDown() override {
+    UseLanguage("en");
+    WindowFixture::TearDown();
+    SetTreeTexts({});
+  }
+
+  /// Chooses an entry of the menu of languages, as the user does.
+  void Choose(const QString& language) {
+    for (QAction* action : Window().findChildren<QAction*>()) {
+      if (action->text().remove('&') != language) continue;
+      action->trigger();
+      Settle();
+      return;
+    }
+    ADD_FAILURE() << "no entry " << language.toStdString();
+  }
+
+  QString LabelOf(TreePanel& panel, const char* node) { return IndexOf(panel, node).data().toString(); }
+  QStringList MenuTitles() {
+    QStringList titles;
+    for (const QAction* action : Window().menuBar()->actions()) titles += action->text().remove('&');
+    return titles;
+  }
+};
+
+TEST_F(LanguageChangeTest, ShowsAtOnceAndBackAgain) {
+  Show(SmallBoard(kWindowBoard));
+  const QStringList english = MenuTitles();
+  Choose("German");
+  EXPECT_EQ(MenuTitles().at(1), "Bearbeiten");
+  EXPECT_EQ(LabelOf(Window().PartsPanel(), "kind:3"), "Widerstände (1)");
+  EXPECT_EQ(ReadPreferences().language, "de");
+  Choose("Englisch");
+  EXPECT_EQ(MenuTitles(), english);
+  EXPECT_EQ(LabelOf(Window().PartsPanel(), "kind:3"), "Resistors (1)");
+}
+
+TEST_F(LanguageChangeTest, LeavesAllThatIsSeenButTheWords) {
+  Compare(SmallBoard(kWindowBoard), SmallBoard("(net 0 \"\") (net 1 \"GND\")"));
+  ClickNode(Window().NetsPanel(), "SelAll_Default");
+  ClickCheckBox(Window().LayersPanel(), "layer:F.Cu");
+  ClickNode(Window().Comparison().Panel(), "nets/net:VCC");
+  Window().Comparison().SetDifferencesOnly(true);
+  Window().PartsPanel().Filter().setText("R");
+  Session().Trees().Parts().RestoreSelection({"kind:3"});
+  View().ZoomBy(2);
+  Settle();
+  const Viewport viewport = View().CurrentViewport();
+  const std::set<void*> nets = Session().Trees().Nets().SelectedObjects();
+  ASSERT_EQ(nets.size(), 2u);
+  Choose("German");
+  EXPECT_EQ(Session().Trees().Nets().SelectedObjects(), nets);
+  EXPECT_FALSE(Session().Trees().Layers().IsVisible(0));
+  EXPECT_EQ(Session().Trees().Compare()->Selected().size(), 1u);
+  EXPECT_TRUE(Window().Comparison().ShowsDifferencesOnly());
+  EXPECT_EQ(Window().PartsPanel().Filter().text(), "R");
+  EXPECT_EQ(Session().Trees().Parts().SelectedNodes(), std::vector<std::string>{"kind:3"});
+  EXPECT_EQ(View().CurrentViewport().center, viewport.center);
+  EXPECT_EQ(View().CurrentViewport().pixelsPerMm, viewport.pixelsPerMm);
+  EXPECT_FALSE(Window().Steps().CanUndo());
+}
+
+TEST_F(LanguageChangeTest, WindowWithoutABoardChangesToo) {
+  Choose("German");
+  EXPECT_EQ(MenuTitles().at(1), "Bearbeiten");
+  Show(SmallBoard(kWindowBoard));
+  EXPECT_EQ(LabelOf(Window().LayersPanel(), "layers:copper"), "Kupfer");
+}
+
+TEST_F(LanguageChangeTest, EveryActionIsThereOnce) {
+  Show(SmallBoard(kWindowBoard));
+  const auto count = [this] { return Window().findChildren<QAction*>().size(); };
+  Choose("German");
+  const auto before = count();
+  for (const char* language : {"Englisch", "German", "Englisch", "German"}) Choose(language);
+  EXPECT_EQ(count(), before);
+  const QRgb shown = ColorAt(10.3, 5.3);
+  ClickCheckBox(Window().LayersPanel(), "layer:F.Cu");
+  EXPECT_NE(ColorAt(10.3, 5.3), shown);
+  QTest::keyClick(&Window(), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(ColorAt(10.3, 5.3), shown);
 }
 
 TEST(Languages, EnglishNeedsNoTable) {
