@@ -1,9 +1,11 @@
 #include <uicomps/base/BaseTree.h>
 
+#include <cassert>
 #include <cstring>
 #include <string_view>
 #include <utility>
 
+#include <uicomps/base/LifeWatch.h>
 #include <uicomps/base/WidgetOf.h>
 #include <uicomps/toolkit/Actions.h>
 #include <uicomps/toolkit/ComponentCalls.h>
@@ -114,7 +116,9 @@ BaseTree::InsertNodeResult BaseTree::InsertNodeSortByName(const char* name, cons
   const wire::LentNames children(WidgetOf(*this), parent, wire::Release::AfterSuccess);
   if (!children.GetResult()) return NotInserted;
   const char* before = nullptr;
+  const LifeWatch<Component> watch(*this);
   if (!placer(name, children.Count(), children.Data(), before)) return Declined;
+  assert(watch.IsAlive() && "the tree was destroyed by the placer of one of its nodes");
   return InsertNode(name, label, parent, data, before, type, text2, i1, i2, i3) ? Inserted : NotInserted;
 }
 

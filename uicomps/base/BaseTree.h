@@ -18,7 +18,8 @@ namespace oxecad_ui {
 /// `wchar_t`.
 ///
 /// A handler may change the tree, and may destroy it as the last thing that it does. The node name that it is given
-/// belongs to the toolkit and is good until the tree changes: a handler that changes the tree copies it first.
+/// belongs to the toolkit and is good until the tree changes: a handler that changes the tree copies it first. An
+/// override that destroys the tree does not call the overridden function any more.
 class OXECAD_UI_EXPORT BaseTree : public Component {
  public:
   /// What `InsertNodeSortByName` did.
@@ -29,7 +30,8 @@ class OXECAD_UI_EXPORT BaseTree : public Component {
   };
 
   /// Chooses a place among a parent's children: sets `before` to the sibling that the new node goes before, or leaves
-  /// it null for the end, and gives true; gives false to decline. The array is good during the call only.
+  /// it null for the end, and gives true; gives false to decline. The array is good during the call only. It may change
+  /// the tree, but not destroy it unless it declines; debug builds assert that.
   using Placer = bool (*)(const char* name, int count, const char** children, const char*& before);
 
   /// Names the tree, as `Component` does; calls nothing.

@@ -1,5 +1,6 @@
 #include <uicomps/base/Component.h>
 
+#include <uicomps/base/LifeWatch.h>
 #include <uicomps/base/Text.h>
 
 namespace oxecad_ui {
@@ -10,6 +11,6 @@ Component::Component(const Component&) = default;
 
 Component& Component::operator=(const Component&) = default;
 
-Component::~Component() = default;
+Component::~Component() { LifeWatch<Component>::End(*this); }
 
 }  // namespace oxecad_ui

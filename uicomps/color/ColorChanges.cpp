@@ -1,3 +1,4 @@
+#include <cassert>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -5,6 +6,7 @@
 
 #include <oxcore/ColorPickerDlg.h>
 
+#include <uicomps/base/LifeWatch.h>
 #include <uicomps/base/Text.h>
 #include <uicomps/base/WidgetOf.h>
 #include <uicomps/color/ColorTree.h>
@@ -61,8 +63,10 @@ void ColorTree::ChangeNodeColor(const char* node) {
   if (IsColorlessNode(WidgetOf(*this), name)) return;
   const unsigned int present = GetNodeColor(name);
   oxcore::ColorPickerDlg dialog(m_mainframe, std::string());
+  const LifeWatch<Component> watch(*this);
   const unsigned int chosen = dialog.ShowDialog(present);
   if (chosen == kNoColor) return;
+  assert(watch.IsAlive() && "the tree was destroyed while its colour picker was open");
   ParentColorChanged(name, chosen);
   ChildColorChanged(GetParent(name).c_str());
   NotifyNode(copy, ValueChanged);
@@ -75,8 +79,10 @@ void ColorTree::ChangeNodeColor(const std::vector<std::string>& nodes) {
     if (GetNodeColor(nodes[index].c_str()) != first) present = kNoColor;
   }
   oxcore::ColorPickerDlg dialog(m_mainframe, std::string());
+  const LifeWatch<Component> watch(*this);
   const unsigned int chosen = dialog.ShowDialog(present);
   if (chosen == kNoColor) return;
+  assert(watch.IsAlive() && "the tree was destroyed while its colour picker was open");
   for (const std::string& node : nodes) {
     ParentColorChanged(node.c_str(), chosen);
     ChildColorChanged(GetParent(node.c_str()).c_str());

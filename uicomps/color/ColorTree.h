@@ -28,6 +28,9 @@ namespace oxecad_ui {
 /// data holds the colour. The second client pointer of `SetOnDirtyHandler`, when not null, is a
 /// `std::vector<std::string>` that gets the names of the changed nodes before the handler is called. Reasons: 1 colour,
 /// 2 check, 3 selection, 4 expanded, 5 collapsed.
+///
+/// The colour picker runs events while it is open. What they do to the nodes is all right; destroying the tree is not,
+/// unless the user then cancels. Debug builds assert that.
 class OXECAD_UI_EXPORT ColorTree : public Tree {
  public:
   /// A node with its colour.

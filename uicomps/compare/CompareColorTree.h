@@ -33,6 +33,9 @@ namespace oxecad_ui {
 /// when not null, is a `std::vector<std::string>` that gets the name of the changed node before the handler is called.
 /// Reasons: 1 a compare value changed (also when the colour picker was cancelled), 2 a node's own check box was
 /// toggled.
+///
+/// The colour picker runs events while it is open. What they do to the nodes is all right; destroying the tree is not.
+/// Debug builds assert that.
 class OXECAD_UI_EXPORT CompareColorTree : public Tree {
  public:
   /// Which of two designs are shown; the platform's.

@@ -1,7 +1,9 @@
+#include <cassert>
 #include <string>
 
 #include <oxcore/ColorPickerDlg.h>
 
+#include <uicomps/base/LifeWatch.h>
 #include <uicomps/base/Text.h>
 #include <uicomps/base/WidgetOf.h>
 #include <uicomps/compare/CompareColorTree.h>
@@ -68,7 +70,9 @@ void CompareColorTree::OfferShowModes(const std::string& node) {
 void CompareColorTree::AskForColor(const std::string& node, const std::string& column) {
   const unsigned int present = LabelToColor(CellLabel(node.c_str(), column.c_str()));
   oxcore::ColorPickerDlg dialog(m_mainframe, std::wstring());
+  const LifeWatch<Component> watch(*this);
   const unsigned int chosen = dialog.ShowDialog(present);
+  assert(watch.IsAlive() && "the tree was destroyed while its colour picker was open");
   if (chosen != kNoColor) {
     ParentColorChanged(node.c_str(), chosen, column.c_str());
     ChildColorChanged(GetParent(node.c_str()).c_str(), column.c_str());

@@ -1,8 +1,10 @@
 #include <uicomps/input/InputVerifier.h>
 
+#include <cassert>
 #include <string_view>
 #include <utility>
 
+#include <uicomps/base/LifeWatch.h>
 #include <uicomps/base/Text.h>
 #include <uicomps/toolkit/Actions.h>
 #include <uicomps/toolkit/ComponentCalls.h>
@@ -24,7 +26,7 @@ InputVerifier::InputVerifier(const InputVerifier&) = default;
 
 InputVerifier& InputVerifier::operator=(const InputVerifier&) = default;
 
-InputVerifier::~InputVerifier() = default;
+InputVerifier::~InputVerifier() { LifeWatch<InputVerifier>::End(*this); }
 
 void InputVerifier::SetDev(const char* device) { m_device = Symbol(TextOrEmpty(device)); }
 
@@ -106,7 +108,11 @@ void InputVerifier::OnInput(Index index) {
   if (Find(index) == nullptr) return;
   const Control control = *Find(index);
   const std::wstring text = ReadText(control.name);
-  if (control.test->CanBeAPartOfValidInput(text.c_str())) {
+  assert(control.test && "a field needs a test: see AddControl");
+  const LifeWatch<InputVerifier> watch(*this);
+  const bool isAccepted = control.test->CanBeAPartOfValidInput(text.c_str());
+  assert(watch.IsAlive() && "the verifier was destroyed by the test of a field");
+  if (isAccepted) {
     if (Control* const watched = Find(index)) watched->lastGoodText = text;
     return;
   }
@@ -120,7 +126,10 @@ void InputVerifier::OnFocusOut(Index index) {
   if (Find(index) == nullptr) return;
   const Control control = *Find(index);
   std::wstring validText;
+  assert(control.test && "a field needs a test: see AddControl");
+  const LifeWatch<InputVerifier> watch(*this);
   const bool isValid = control.test->GetValidInput(ReadText(control.name).c_str(), validText);
+  assert(watch.IsAlive() && "the verifier was destroyed by the test of a field");
   WriteText(control.name, isValid ? validText : control.focusText);
 }
 

@@ -20,6 +20,9 @@ namespace oxecad_ui {
 ///
 /// Call `Clear` before the verifier is destroyed: its destructor removes no callbacks. A copy has the same fields and
 /// no callbacks of its own.
+///
+/// A test may change the verifier, the field's own entry included, and it must not destroy it. Debug builds assert
+/// that, and that a field has a test.
 class OXECAD_UI_EXPORT InputVerifier {
  public:
   /// Has no dialog yet: see `SetDev`.

@@ -72,7 +72,8 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
     bool ownsRecords = true;
   };
 
-  /// Says for each node of a walk what to do with it.
+  /// Says for each node of a walk what to do with it. It may change the tree: the walk knows a node's children by the
+  /// names that they had when it came to them. It must not destroy the tree; debug builds assert that.
   class OXECAD_UI_EXPORT NodeFilter {
    public:
     /// What a walk does with a node.

@@ -1,5 +1,7 @@
+#include <cassert>
 #include <memory>
 
+#include <uicomps/base/LifeWatch.h>
 #include <uicomps/base/WidgetOf.h>
 #include <uicomps/toolkit/ComponentCalls.h>
 #include <uicomps/toolkit/Lent.h>
@@ -85,13 +87,17 @@ void Tree::GetBranchInfo(const char* node, TreeInfo& info, const NodeFilter& fil
   if (node == nullptr) return;
   std::vector<std::string> children;
   GetChildren(node, children);
+  const LifeWatch<Component> watch(*this);
   for (const std::string& child : children) {
+    assert(watch.IsAlive() && "the tree was destroyed by the filter of a walk");
     std::unique_ptr<NodeInfo> record(GetNodeInfo(child.c_str()));
     if (record == nullptr) continue;
     const NodeFilter::Result result = filter(*record);
     if (result == NodeFilter::StopSiblings) return;
     if (result == NodeFilter::Accept) Append(info, std::move(record));
-    if (result == NodeFilter::Accept || result == NodeFilter::SkipNode) GetBranchInfo(child.c_str(), info, filter);
+    if (result != NodeFilter::Accept && result != NodeFilter::SkipNode) continue;
+    assert(watch.IsAlive() && "the tree was destroyed by the filter of a walk");
+    GetBranchInfo(child.c_str(), info, filter);
   }
 }
 
@@ -103,8 +109,10 @@ void Tree::GetTreeInfo(TreeInfo& info, const NodeFilter& filter, bool includeRoo
   if (includeRoot) {
     record.reset(GetNodeInfo(root.c_str()));
     if (record == nullptr) return;
+    const LifeWatch<Component> watch(*this);
     const NodeFilter::Result result = filter(*record);
     if (result != NodeFilter::Accept && result != NodeFilter::SkipNode) return;
+    assert(watch.IsAlive() && "the tree was destroyed by the filter of a walk");
     if (result == NodeFilter::Accept) Append(info, std::move(record));
   }
   GetBranchInfo(root.c_str(), info, filter);

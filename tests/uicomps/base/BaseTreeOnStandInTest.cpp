@@ -144,5 +144,32 @@ TEST_F(BaseTreeOnStandIn, AnUnknownComponentFailsEverywhere) {
   EXPECT_EQ(lost.GetBackgroundColor(), 0xFFFFFFFFu);
 }
 
+TEST_F(BaseTreeOnStandIn, TwoOfOneWidgetBothHearEachEvent) {
+  Plant(tree, "root");
+  EventTree later("dev", "tree");
+  {
+    EventTree first("dev", "tree");
+    first.Init();
+    later.Init();
+    uiox::Driver("dev").Activate("tree", "root");
+    EXPECT_EQ(first.events, std::vector<std::string>{"activate root"});
+    EXPECT_EQ(later.events, std::vector<std::string>{"activate root"});
+  }
+  uiox::Driver("dev").Activate("tree", "root");
+  EXPECT_EQ(later.events, (std::vector<std::string>{"activate root", "activate root"}))
+      << "the end of the first takes its own callbacks";
+}
+
+TEST_F(BaseTreeOnStandIn, TheEndOfACopyTakesTheCallbacksOfTheOriginal) {
+  Plant(tree, "root");
+  tree.Init();
+  { const EventTree copy(tree); }
+  uiox::Driver("dev").Activate("tree", "root");
+  EXPECT_TRUE(tree.events.empty());
+  tree.Init();
+  uiox::Driver("dev").Activate("tree", "root");
+  EXPECT_EQ(tree.events, std::vector<std::string>{"activate root"});
+}
+
 }  // namespace
 }  // namespace oxecad_ui
