@@ -19,6 +19,7 @@
 #include <QFileInfo>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QSplitter>
@@ -57,6 +58,15 @@ void AlignLabels(uiox_qt::QtFront& front, const char* device, std::initializer_l
   for (const char* label : labels) {
     if (QWidget* widget = front.ComponentFor(device, label)) widget->setMinimumWidth(widest);
   }
+}
+
+// A value counts when its field is left: Enter leaves the field and comes back to it.
+void TakeValueOnEnter(QLineEdit& field) {
+  QObject::connect(&field, &QLineEdit::returnPressed, &field, [&field] {
+    field.clearFocus();
+    field.setFocus();
+    field.selectAll();
+  });
 }
 
 // The first local file that something dragged brings along.
@@ -166,6 +176,7 @@ void MainWindow::MakePanels() {
   layerTabs_->setDocumentMode(true);
   layerTabs_->addTab(layers_, tr("Layers"));
   layerTabs_->addTab(front_.WidgetFor(kSettingsPanel), tr("View"));
+  for (QLineEdit* field : front_.WidgetFor(kSettingsPanel)->findChildren<QLineEdit*>()) TakeValueOnEnter(*field);
   AlignLabels(front_, kSettingsPanel, {"gridLabel", "lineWidthLabel", "dimLabel", "roomLabel"});
   AlignLabels(front_, kSettingsPanel, {"gridUnit", "lineWidthUnit", "dimUnit", "roomUnit"});
   auto* left = new QSplitter(Qt::Vertical);

@@ -251,6 +251,65 @@ TEST_F(SettingsTest, FieldRefusesWhatIsNoNumber) {
   EXPECT_EQ(field.text(), "25");
 }
 
+TEST_F(SettingsTest, EnterTakesALineWidthAtOnce) {
+  Show(SmallBoard(R"((net 0 "") (gr_rect (start 0 0) (end 40 20) (layer "Edge.Cuts") (width 0.2))
+                     (segment (start 2 10) (end 38 10) (width 0.01) (layer "F.Cu") (net 0)))"));
+  auto& field = Field<QLineEdit>("Line width");
+  field.setFocus();
+  field.selectAll();
+  QTest::keyClicks(&field, "2");
+  EXPECT_EQ(ColorAt(10.3, 10.8), kBackground);
+  QTest::keyClick(&field, Qt::Key_Return);
+  EXPECT_EQ(ColorAt(10.3, 10.8), kFront);
+  EXPECT_TRUE(field.hasFocus());
+  QTest::keyClicks(&field, "0.1");
+  EXPECT_EQ(field.text(), "0.1");
+  QTest::keyClick(&field, Qt::Key_Enter);
+  EXPECT_EQ(ColorAt(10.3, 10.8), kBackground);
+}
+
+TEST_F(SettingsTest, LineWidthRefusesLettersAndKeepsToItsRange) {
+  auto& field = Field<QLineEdit>("Line width");
+  Enter(field, "wide");
+  EXPECT_EQ(field.text(), "0.05");
+  Enter(field, "-1");
+  EXPECT_EQ(field.text(), "0");
+  Enter(field, "0.3mm");
+  EXPECT_EQ(field.text(), "0.3");
+  Enter(field, "70");
+  EXPECT_EQ(field.text(), "5");
+}
+
+TEST_F(SettingsTest, LineWidthFollowsItsUnit) {
+  Enter(Field<QLineEdit>("Line width"), "0.254");
+  auto& unit = Field<QComboBox>("Unit of the line width");
+  unit.setFocus();
+  for (const char* name : {"um", "mil"}) {
+    QTest::keyClick(&unit, Qt::Key_Down);
+    Settle();
+    EXPECT_EQ(unit.currentText(), name);
+  }
+  EXPECT_EQ(Field<QLineEdit>("Line width").text(), "10");
+  EXPECT_EQ(Field<QLineEdit>("Grid").text(), "1");
+  Enter(Field<QLineEdit>("Line width"), "20");
+  QTest::keyClick(&unit, Qt::Key_Home);
+  Settle();
+  EXPECT_EQ(Field<QLineEdit>("Line width").text(), "0.508");
+}
+
+TEST_F(SettingsTest, RoomIsReckonedWithUnits) {
+  auto& field = Field<QLineEdit>("Room around what is shown");
+  field.setFocus();
+  field.selectAll();
+  QTest::keyClicks(&field, "1.5mm + 20mil");
+  EXPECT_EQ(field.text(), "1.5mm + 20mil");
+  QTest::keyClick(&field, Qt::Key_Return);
+  EXPECT_EQ(field.text(), "2.008");
+  QTest::keyClicks(&field, "2 furlongs");
+  QTest::keyClick(&field, Qt::Key_Return);
+  EXPECT_EQ(field.text(), "2.008");
+}
+
 TEST_F(SettingsTest, DimStrengthShowsOnTheBoard) {
   ClickNode(Window().NetsPanel(), "net:GND");
   Enter(Field<QLineEdit>("Dim strength in percent"), "100");
