@@ -29,7 +29,7 @@ const BalloonStyle* StyleOf(int quadrant) {
 int GiveStyle(const uiox::Call& call) {
   const BalloonStyle* const found = StyleOf(call.code);
   if (!found || !call.value) return -1;
-  std::memcpy(call.value, &found, sizeof found);
+  std::memcpy(call.value, &found, sizeof(void*));
   return 0;
 }
 

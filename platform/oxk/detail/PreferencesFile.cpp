@@ -91,7 +91,7 @@ bool PreferencesFile::KeepDamaged(const std::string& reason) {
   for (int number = 1; number <= kMostDamagedFiles; ++number) {
     const std::string kept = m_path + ".damaged-" + std::to_string(number);
     if (m_operations->RenameToNew(m_path, kept) == 0) {
-      Report(m_path, reason + "; kept as " + kept);
+      Report(m_path, std::string(reason).append("; kept as ").append(kept));
       return true;
     }
     error = errno;
