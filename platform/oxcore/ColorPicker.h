@@ -20,6 +20,7 @@ constexpr unsigned int kNoPickedColor = 0xFFFFFFFFu;
 struct ColorPickerRequest {
   Mainframe* parent = nullptr;  ///< not owned, may be null
   std::wstring title;           ///< UTF-16 code units
+  /// The colour the dialog opens with, 0x00BBGGRR.
   unsigned int initialColor = kNoPickedColor;
 };
 

@@ -16,6 +16,7 @@ class OXECAD_PLATFORM_EXPORT ColorPickerDlg {
  public:
   /// `parent` may be null and is not owned. A narrow title is UTF-8.
   ColorPickerDlg(Mainframe* parent, const std::string& title);
+  /// The same with a title in UTF-16 code units.
   ColorPickerDlg(Mainframe* parent, const std::wstring& title);
   virtual ~ColorPickerDlg();
 

@@ -19,7 +19,9 @@ class OXECAD_PLATFORM_EXPORT RenameDlg {
   /// `flag`: select the whole name when the dialog opens, so that typing replaces it. `parent` may be null and is not
   /// owned. `help` is the topic of the help button, which is hidden for the empty symbol.
   RenameDlg(bool flag, Mainframe* parent, const oxkutils::Symbol& help);
+  /// A copy has the same settings, name and outcome; it is no second dialog, since all share the device.
   RenameDlg(const RenameDlg&);
+  /// Takes over settings, name and outcome.
   RenameDlg& operator=(const RenameDlg&);
   virtual ~RenameDlg();
 
@@ -30,6 +32,7 @@ class OXECAD_PLATFORM_EXPORT RenameDlg {
 
   /// The name that stands in the field when the dialog opens.
   void SetNewName(const std::wstring& name);
+  /// The window that the dialog belongs to, as it was given; may be null.
   Mainframe* GetParent() const;
   /// Shows the dialog until it is closed, and gives `IsAccepted`. A dialog that cannot be built or shown counts as
   /// cancelled. The device is made by the first run and kept, hidden, for the next.
@@ -46,7 +49,9 @@ class OXECAD_PLATFORM_EXPORT RenameDlg {
   /// The Help button: shows the topic (see `<oxcore/Help.h>`).
   virtual void ClickHelp();
 
+  /// What `IsAccepted` says; each run begins by clearing it.
   bool m_accepted = false;
+  /// What `GetNewName` says and what stands in the field when the dialog opens (UTF-16 code units).
   std::wstring m_newName;
 
  private:

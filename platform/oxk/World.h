@@ -16,6 +16,7 @@ class OXECAD_PLATFORM_EXPORT World : public oxkutils::RefCounted {
   World(const World&) = delete;
   World& operator=(const World&) = delete;
 
+  /// The one world of the process, made by the first call; never null. Safe from several threads.
   static oxkutils::SmartPtr<World> GetWorld();
 
   /// The preferences. The first call reads them from the user's configuration folder, or from the folder that

@@ -15,7 +15,9 @@ namespace oxkutils {
 class OXECAD_PLATFORM_EXPORT RefCounted {
  public:
   RefCounted() noexcept;
+  /// A copy is a new object: nobody refers to it yet, whatever the count of the other.
   RefCounted(const RefCounted&) noexcept;
+  /// Leaves the counts of both objects alone.
   RefCounted& operator=(const RefCounted&) noexcept;
   virtual ~RefCounted();
 
@@ -23,10 +25,12 @@ class OXECAD_PLATFORM_EXPORT RefCounted {
   /// for an owner of another kind. It must not take a reference to the object and drop it again.
   virtual bool ZeroReferenceCountHook();
 
+  /// Takes one reference, to be dropped with `RemoveReference`.
   void AddReference() const noexcept;
   /// Drops one reference that `AddReference` took. With the last one, and the hook's consent, the object is deleted; it
   /// must then have been made with `new`.
   void RemoveReference() const;
+  /// How many references there are now; with several threads it may be another number by the time it is read.
   long GetReferenceCount() const noexcept;
 
  private:

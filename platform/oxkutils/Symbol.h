@@ -27,9 +27,12 @@ class OXECAD_PLATFORM_EXPORT Symbol {
 
   /// The text, zero-terminated; good until the process ends, never null.
   const char* c_str() const noexcept { return m_text ? m_text->c_str() : ""; }
+  /// Whether it is the symbol of the empty text.
   bool empty() const noexcept { return m_text == nullptr; }
 
+  /// Whether both stand for the same text, byte for byte. Constant time.
   friend bool operator==(const Symbol& a, const Symbol& b) noexcept { return a.m_text == b.m_text; }
+  /// Whether they stand for different texts. Constant time.
   friend bool operator!=(const Symbol& a, const Symbol& b) noexcept { return a.m_text != b.m_text; }
   /// A strict order by identity: the same throughout a process, not alphabetical, and another one in the next run.
   friend bool operator<(const Symbol& a, const Symbol& b) noexcept {
@@ -44,8 +47,10 @@ class OXECAD_PLATFORM_EXPORT Symbol {
 
 }  // namespace oxkutils
 
+/// Hashes by identity, for unordered containers; the numbers differ from run to run.
 template <>
 struct std::hash<oxkutils::Symbol> {
+  /// The symbol's hash. Constant time.
   std::size_t operator()(const oxkutils::Symbol& symbol) const noexcept {
     return std::hash<const std::string*>()(symbol.m_text);
   }

@@ -37,6 +37,7 @@ OXECAD_UIOX_API int Dispatch(Call& call);
 /// Puts a backend in place for its own lifetime.
 class BackendScope {
  public:
+  /// Puts the backend in place; it must outlive the scope. Scopes end in the reverse order of their beginning.
   explicit BackendScope(Backend& backend) : before_(SetBackend(&backend)) {}
   ~BackendScope() { SetBackend(before_); }
   BackendScope(const BackendScope&) = delete;

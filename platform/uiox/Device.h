@@ -22,6 +22,7 @@ class WidgetIndex;
 /// A device is a component too: on the wire it is the component of its own name.
 class OXECAD_UIOX_API Device : public Widget {
  public:
+  /// An empty device that is not on the screen. Only the suite makes devices (`Suite::CreateDevice`).
   Device(Suite& suite, std::string name, std::string resource);
   ~Device() override;
 
@@ -35,12 +36,16 @@ class OXECAD_UIOX_API Device : public Widget {
   TreeWidget* FindTree(std::string_view name) const;
   /// Adds a component at the end of a panel (null: of the device itself); null when the name is empty or in use.
   Widget* Add(WidgetClass widget_class, std::string_view name, Widget* panel = nullptr);
+  /// Adds a tree in the same way; null when the name is empty or in use.
   TreeWidget* AddTree(std::string_view name, TreeStyle style, Widget* panel = nullptr);
   /// All components but the device and the cell controls, in the order of the resource.
   const std::vector<Widget*>& Components() const;
 
+  /// Whether it is shown. Its components can be asked and changed all the same.
   bool OnScreen() const { return on_screen_; }
+  /// Puts it on the screen and tells observers; nothing happens where it is there.
   void Show();
+  /// Takes it off the screen and tells observers; components and callbacks stay.
   void Hide();
   /// Lays the components out below and beside each other, each as large as its class and texts want it; the same
   /// everywhere.
@@ -50,11 +55,15 @@ class OXECAD_UIOX_API Device : public Widget {
 
   /// Attributes 29 and 234: a component's name, or empty. Refused for a name that is no component.
   const std::string& Focus() const { return focus_; }
+  /// Moves the keyboard focus as the program does: no callback is called. Empty takes it away.
   bool SetFocus(std::string_view component);
   /// The component that the user's focus came to last and has not left; the program moves `Focus` alone.
   const std::string& UserFocus() const { return user_focus_; }
+  /// For `user::FocusIn` and `user::FocusOut`.
   void SetUserFocus(std::string_view component) { user_focus_ = component; }
+  /// The button that Enter presses; empty: none.
   const std::string& DefaultButton() const { return default_button_; }
+  /// Makes a component the one that Enter presses; empty: none. False, and nothing changes, for an unknown name.
   bool SetDefaultButton(std::string_view component);
 
  private:

@@ -17,6 +17,7 @@ class OXECAD_UIOX_API Front {
  public:
   virtual ~Front();
 
+  /// Rings the bell once, without waiting.
   virtual void Beep() = 0;
   /// Runs an event loop until `Suite::IsModalRunOver(device)`; `SuiteObserver::ModalRunEnded` tells when.
   virtual void RunModal(Device& device) = 0;

@@ -16,15 +16,22 @@ namespace uiox {
 /// Four bytes a pixel, row 0 first, no padding: red, green, blue, and how much the pixel covers: 0 not at all, 1
 /// wholly, 2 to 255 as an alpha value.
 struct Image {
+  /// Pixels in a row.
   int width = 0;
+  /// Number of rows.
   int height = 0;
+  /// 4 × width × height bytes, as said above.
   std::vector<std::uint8_t> pixels;
 
+  /// The fourth byte of a pixel that is not seen.
   static constexpr std::uint8_t kClear = 0;
+  /// The fourth byte of a pixel that covers what is below it.
   static constexpr std::uint8_t kOpaque = 1;
+  /// The four bytes of a pixel; the place must be inside the image.
   const std::uint8_t* Pixel(int x, int y) const {
     return pixels.data() + 4 * (std::size_t(y) * std::size_t(width) + std::size_t(x));
   }
+  /// The same, to be changed.
   std::uint8_t* Pixel(int x, int y) {
     return pixels.data() + 4 * (std::size_t(y) * std::size_t(width) + std::size_t(x));
   }
@@ -34,6 +41,7 @@ struct Image {
 
 /// Largest width and height of an image, and largest number of its pixels.
 constexpr int kMaxImageSide = 16384;
+/// Largest number of an image's pixels.
 constexpr std::int64_t kMaxImagePixels = 64 * 1024 * 1024;
 
 /// The images of the suite: those that were defined, then PNG files on the resource search path, then the built-in
@@ -51,6 +59,7 @@ class OXECAD_UIOX_API ImageBag {
   bool Define(std::string_view name, Image image);
   /// Forgets all but the built-in images.
   void Clear();
+  /// How many images are known now: those defined, those read from files, and the built-in ones.
   std::size_t Size() const;
 
  private:

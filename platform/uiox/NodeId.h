@@ -11,6 +11,7 @@ namespace uiox {
 using NodeId = std::uint32_t;
 /// The invisible parent of the top-level nodes. It has no name and cannot be changed.
 constexpr NodeId kTop = 0;
+/// No node: what is said of a node that is not there.
 constexpr NodeId kNoNode = 0xFFFFFFFFu;
 
 /// A node type by its name, the same in all trees of the process. 0 is the empty type. Never given up.
@@ -18,18 +19,25 @@ using TypeId = std::uint32_t;
 
 /// A control of one tree. 0 is none. Good until the control is destroyed.
 using ControlId = std::uint32_t;
+/// No control.
 constexpr ControlId kNoControl = 0;
 
 /// A named column of one tree, from 0 in the order of the resource. The column of the labels is none of them.
 using ColumnIndex = std::uint16_t;
+/// No column.
 constexpr ColumnIndex kNoColumn = 0xFFFFu;
 
 /// A cell of a tree.
 struct CellPlace {
+  /// The cell's row.
   NodeId node = kNoNode;
+  /// The cell's column.
   ColumnIndex column = kNoColumn;
+  /// Whether it is a place at all.
   explicit operator bool() const { return node != kNoNode; }
+  /// Whether it is the same cell.
   friend bool operator==(CellPlace a, CellPlace b) { return a.node == b.node && a.column == b.column; }
+  /// Whether it is another cell.
   friend bool operator!=(CellPlace a, CellPlace b) { return !(a == b); }
 };
 

@@ -34,6 +34,7 @@ class OXECAD_UIOX_API ResourcePath {
  public:
   /// Adds a directory behind those that are there.
   void Add(std::string_view directory);
+  /// Forgets the directories that were added; the environment variable and the embedded defaults stay.
   void Clear();
   /// The bytes of a resource; false when it is nowhere or its name is no plain file name ("..", "/").
   bool Read(std::string_view name, std::string& bytes) const;

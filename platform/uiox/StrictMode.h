@@ -13,8 +13,8 @@
 
 namespace uiox {
 
-/// While it lives, the built-in toolkit keeps books and lends nothing for longer than it promises. For tests. Of several
-/// the newest watches and the others rest.
+/// While it lives, the built-in toolkit keeps books and lends nothing for longer than it promises. For tests. Of
+/// several the newest watches and the others rest.
 ///
 /// Faults, told at once:
 ///  - a list of codes that is wrong in itself: an unknown code, a missing end;
@@ -32,6 +32,7 @@ namespace uiox {
 /// next change of it.
 class OXECAD_UIOX_API StrictMode {
  public:
+  /// Takes one line that says what is wrong.
   using Report = std::function<void(const std::string&)>;
 
   /// `report` is called with each fault, and at the end with each unexpected leftover.
@@ -48,6 +49,7 @@ class OXECAD_UIOX_API StrictMode {
   std::vector<std::string> Leftovers() const;
   /// A leftover that is no fault, as `Leftovers` writes it; once for each.
   void Expect(std::string leftover);
+  /// How many faults were told so far; leftovers are not counted.
   std::size_t Faults() const;
 
   /// The one that lives, or null.

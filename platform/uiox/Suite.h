@@ -23,6 +23,7 @@ namespace uiox {
 /// Everything the toolkit holds. There is one in a process, used from the thread of the user interface alone.
 class OXECAD_UIOX_API Suite {
  public:
+  /// The suite of the process, made by the first call.
   static Suite& Get();
 
   Suite(const Suite&) = delete;
@@ -32,6 +33,7 @@ class OXECAD_UIOX_API Suite {
 
   /// Null when there is none. Constant time.
   Device* FindDevice(std::string_view name) const;
+  /// The component (or the device itself, by its own name) of a device; null when there is none. Constant time.
   Widget* Find(std::string_view device, std::string_view component) const;
   /// The same for names that end with a 0 (null: not found). Calls that follow each other mostly name the same
   /// component.
@@ -52,19 +54,26 @@ class OXECAD_UIOX_API Suite {
 
   // --- What all devices share ----------------------------------------------------------------------------------------
 
+  /// Where device descriptions and image files are looked for.
   ResourcePath& Resources();
+  /// The images of all devices.
   ImageBag& Images();
+  /// The node types of all trees.
   NodeTypes& Types();
   /// What the front says, else what was set.
   ScreenSize Screen() const;
+  /// The size that `Screen` gives as long as no front knows better.
   void SetScreen(ScreenSize size);
   /// What the front says, else the layout: x and y on the screen.
   Rect GeometryOnScreen(const Widget& widget) const;
   /// The device and component that the user works in (4003, 4004); empty: none. `Driver` keeps them; a test may set
   /// them.
   const std::string& CurrentDevice() const;
+  /// The same for the component.
   const std::string& CurrentComponent() const;
+  /// Names the device and component that the user works in from now on; empty: none.
   void SetCurrent(std::string_view device, std::string_view component);
+  /// Rings the bell of the front, where there is one, and counts it.
   void Beep();
   /// How often the bell was rung.
   std::size_t Beeps() const;
@@ -79,6 +88,7 @@ class OXECAD_UIOX_API Suite {
   /// if that ends nothing, to close the window; if that ends nothing either, the run ends with `kNoResult`. Never
   /// waits.
   int RunModal(Device& device);
+  /// Whether a run of the device has begun and has not returned.
   bool HasModalRun(const Device& device) const;
   /// Ends the innermost run of a device; false when there is none.
   bool EndModalRun(std::string_view device, int result);
@@ -88,17 +98,24 @@ class OXECAD_UIOX_API Suite {
   Device* ModalDevice() const;
   /// For runs without a front: what the user does next. Each action is performed once, by the run that comes to it.
   void QueueUserAction(std::function<void()> action);
+  /// How many of them have not been performed.
   std::size_t QueuedUserActions() const;
 
   // --- Fronts and observers ------------------------------------------------------------------------------------------
 
   /// Null: headless. Gives the front that was there; the caller keeps the ownership.
   Front* SetFront(Front* front);
+  /// The front in place, or null.
   Front* CurrentFront() const;
+  /// Tells an observer of everything from now on; it is not owned and must be removed before it ends.
   void AddObserver(SuiteObserver* observer);
+  /// Tells an observer of nothing more, not even of what is being told; unknown ones are passed over.
   void RemoveObserver(SuiteObserver* observer);
+  /// A copy of the list, in the order in which they came.
   std::vector<SuiteObserver*> Observers() const;
+  /// Whether there is anybody to tell. Constant time.
   bool HasObservers() const;
+  /// Whether it is told of things. Linear in the number of observers.
   bool IsObserver(const SuiteObserver* observer) const;
   /// Calls a member of every observer, for the suite's own parts. Observers may come and go meanwhile.
   template <class... Parameters, class... Arguments>

@@ -36,8 +36,9 @@ OXECAD_UIOX_API bool Select(TreeWidget& tree, const std::vector<NodeId>& nodes, 
                             NodeId current = kNoNode);
 /// Takes one node into the selection or out of it, with kind 2: 72, 267, 53, reason 3.
 OXECAD_UIOX_API bool ToggleSelected(TreeWidget& tree, NodeId node);
-/// 175, reasons 29 and 30. False when the node already is so.
+/// 175, reason 29. False when the node already is so.
 OXECAD_UIOX_API bool Expand(TreeWidget& tree, NodeId node);
+/// The other way: 175, reason 30. False when the node already is so.
 OXECAD_UIOX_API bool Collapse(TreeWidget& tree, NodeId node);
 /// Toggles the check box (checked becomes unchecked, anything else checked): 346, reason 7.
 OXECAD_UIOX_API bool Check(TreeWidget& tree, NodeId node);
@@ -62,6 +63,7 @@ OXECAD_UIOX_API bool EnterText(Widget& field, std::wstring_view text);
 /// Also after the program has moved the focus there (attribute 29), which calls nothing by itself. False when it is
 /// there.
 OXECAD_UIOX_API bool FocusIn(Widget& widget);
+/// The keyboard focus leaves the component: reason 32. False when it is not there.
 OXECAD_UIOX_API bool FocusOut(Widget& widget);
 
 // --- Devices ---------------------------------------------------------------------------------------------------------

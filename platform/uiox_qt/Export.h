@@ -3,6 +3,7 @@
 #ifndef OXECAD_UIOX_QT_EXPORT_H
 #define OXECAD_UIOX_QT_EXPORT_H
 
+/// Stands before each class and function that libuiox_qt.so exports.
 #define OXECAD_UIOX_QT_API __attribute__((visibility("default")))
 
 #endif

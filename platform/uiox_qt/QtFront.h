@@ -32,6 +32,7 @@ class OXECAD_UIOX_QT_API QtFront final : public uiox::Front {
 
   /// The window that dialogs belong to and are centred on; null: none. Not owned.
   void SetMainWindow(QWidget* window);
+  /// The window that was set, or null.
   QWidget* MainWindow() const;
 
   /// The device's components in one widget, for the application to place in a window of its own; null when there is no
@@ -49,6 +50,7 @@ class OXECAD_UIOX_QT_API QtFront final : public uiox::Front {
   QWidget* WindowFor(std::string_view device);
 
   // uiox::Front
+  /// Rings the bell of the desktop.
   void Beep() override;
   void RunModal(uiox::Device& device) override;
   bool QueryScreen(uiox::ScreenSize& size) override;
