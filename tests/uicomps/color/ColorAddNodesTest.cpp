@@ -80,6 +80,35 @@ TEST_F(ColorAddNodes, ReadTheSiblingsOnce) {
   EXPECT_LE(toolkit.TakeLines().size(), 4u) << "the children of p, two colours of children, the colour of p";
 }
 
+TEST_F(ColorAddNodes, HandAllValuesOn) {
+  tree.AddNodes({Colored("root", 9)});
+  toolkit.TakeLines();
+  toolkit.WriteOnly([](const uiox::Call& call) { return call.code == 2029; });
+  Record record = Colored("a", 5);
+  record.label = L"A";
+  record.expanded = true;
+  tree.AddNodes({record});
+  EXPECT_TRUE(toolkit.Took(
+      R"(do dev:tree 2029 AddNode "a" L"A" "root" "color_square.png_5" | 2=L"" 128=1 256=1 512=0 1024=0x5 | 0)"));
+}
+
+TEST_F(ColorAddNodes, LookForTheTypeOfAColorOnce) {
+  tree.AddNodes({Colored("root", 5)});
+  toolkit.TakeLines();
+  toolkit.WriteOnly([](const uiox::Call& call) { return call.code == 2243; });
+  tree.AddNodes({Colored("a", 5), Colored("b", 5), Colored("c", 5)});
+  EXPECT_EQ(toolkit.TakeLines().size(), 1u);
+}
+
+TEST_F(ColorAddNodes, TryTheIconOfAColorAgain) {
+  tree.AddNodes({Colored("root", kNone)});
+  toolkit.When(DoingGlobally(6030)).Refuse().Once();
+  tree.AddNodes({Colored("a", 5), Colored("b", 5), Colored("c", 5)});
+  EXPECT_EQ(tree.GetNodeType("a"), "mix");
+  EXPECT_EQ(tree.GetNodeType("b"), "color_square.png_5") << "what could not be loaded once may be loaded now";
+  EXPECT_EQ(tree.GetNodeType("c"), "color_square.png_5");
+}
+
 // --- Against one by one ----------------------------------------------------------------------------------------------
 
 struct Change {

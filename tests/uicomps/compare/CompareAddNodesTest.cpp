@@ -76,6 +76,34 @@ TEST_F(CompareAddNodes, RedrawOnceAndReadNoSiblingTwice) {
   EXPECT_TRUE(toolkit.TakeLines().empty());
 }
 
+TEST_F(CompareAddNodes, TryTheIconOfAColorAgain) {
+  toolkit.When(DoingGlobally(6030)).Refuse().Once();
+  tree.AddNodes({Compared("x", 5, 5), Compared("y", 5, 5)});
+  const uiox::TreeStore& store = widget.Store();
+  EXPECT_EQ(store.CellLabel({store.Find("x"), 0}), std::wstring(L"<mix>"));
+  EXPECT_EQ(store.CellLabel({store.Find("x"), 1}), std::wstring(L"<img src=\"color_square.png_5\">"))
+      << "what could not be loaded once may be loaded now";
+  EXPECT_EQ(store.CellLabel({store.Find("y"), 0}), std::wstring(L"<img src=\"color_square.png_5\">"));
+}
+
+TEST_F(CompareAddNodes, WriteEachParentOnce) {
+  tree.AddNodes({Compared("p", 1, 1)});
+  toolkit.TakeLines();
+  toolkit.WriteOnly(
+      [](const uiox::Call& call) { return call.code == 2160 && call.positional[0].Text() == std::string("p"); });
+  tree.AddNodes({Compared("p/1", 1, 1), Compared("p/2", 2, 2), Compared("p/3", 2, 2), Compared("p/4", 3, 3)});
+  EXPECT_EQ(toolkit.TakeLines().size(), 4u) << "show mode and three colours";
+}
+
+TEST_F(CompareAddNodes, ForgetWhatTheFirstChildSaidBefore) {
+  Plant(tree, "root\n  p <colorvis>\n    x <colorvis>");
+  tree.SetCellLabel("x", "a", L"<img src=\"color_square.png_1\">");
+  // p is summed up while x shows 1; then x becomes what its own child shows.
+  tree.AddNodes({Compared("p/y", 2, 2), Compared("x/1", 2, 2)});
+  const uiox::TreeStore& store = widget.Store();
+  EXPECT_EQ(store.CellLabel({store.Find("p"), 0}), std::wstring(L"<img src=\"color_square.png_2\">"));
+}
+
 // --- Against one by one ----------------------------------------------------------------------------------------------
 
 struct Addition {

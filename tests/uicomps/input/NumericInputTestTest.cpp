@@ -144,6 +144,11 @@ TEST(NumericLeaving, ANumberBeyondTheRangeBecomesTheNearestLimit) {
   EXPECT_EQ(Left(L"1e300", 0.25, 2.5), L"2.5");
 }
 
+TEST(NumericLeaving, ANumberEqualToALimitStays) {
+  EXPECT_EQ(Left(L"0", -1, -0.0), L"0") << "the limit would be written as -0";
+  EXPECT_EQ(Left(L"0", -0.0, 1), L"0");
+}
+
 TEST(NumericLeaving, TheLowerLimitIsAppliedFirst) {
   EXPECT_EQ(Left(L"7", 10, 5), L"5") << "7 becomes 10, and 10 becomes 5";
   EXPECT_EQ(Left(L"20", 10, 5), L"5");

@@ -106,6 +106,22 @@ TEST_F(AddEcadNodes, AnUnsupportedOrderAddsAtTheEnd) {
   EXPECT_EQ(Drawn(tree, kNothingMore), "root\n  b\n  a\n  c");
 }
 
+TEST_F(AddEcadNodes, AmongSiblingsOutOfOrderASearchDecidesAsOneByOne) {
+  for (const char* const name : {"a", "b", "c"}) AddByItself(tree, Net(name, L"m-1"));
+  // Behind a minus sign the greater number is the greater label: 50, 40, 30 is no order.
+  tree.ModifyNodeLabel("c", L"m-50");
+  tree.ModifyNodeLabel("b", L"m-40");
+  tree.ModifyNodeLabel("a", L"m-30");
+  tree.AddEcadNodes({Net("pin", L"pin", "b"), Net("new", L"m-45")}, Tree::ByLabel);
+  EXPECT_EQ(Drawn(tree, kNothingMore), R"(
+    root
+      c "m-50"
+      b "m-40"
+        pin
+      a "m-30"
+      new "m-45")");
+}
+
 /// Its records cannot be read into a plain one.
 class UnreadableTree : public Tree {
  public:
