@@ -4,33 +4,44 @@
 #ifndef OXECAD_UI_TREE_NATURALORDER_H
 #define OXECAD_UI_TREE_NATURALORDER_H
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 
 namespace oxecad_ui {
 
-constexpr wchar_t FoldCase(wchar_t c) { return c >= L'a' && c <= L'z' ? static_cast<wchar_t>(c - 32) : c; }
+/// Without a branch: whether a letter is small is what a processor can not foretell.
+constexpr wchar_t FoldCase(wchar_t c) {
+  const std::uint32_t small = static_cast<std::uint32_t>(c) - U'a' <= 25u;
+  return static_cast<wchar_t>(static_cast<std::uint32_t>(c) - (small << 5));
+}
 
-constexpr bool IsDecimalDigit(wchar_t c) { return static_cast<std::uint32_t>(c) - U'0' <= 9u; }
+/// What the digit counts; more than 9 for any other character.
+constexpr std::uint32_t DigitValue(wchar_t c) { return static_cast<std::uint32_t>(c) - U'0'; }
+
+constexpr bool IsDecimalDigit(wchar_t c) { return DigitValue(c) <= 9u; }
 
 namespace detail {
 
 /// Compares two runs of digits and moves both texts behind them: negative, 0 or positive as the left number is smaller,
 /// the same with as many leading zeros, or greater. Values wrap at 32 bits.
 constexpr int CompareNumbers(const wchar_t*& a, const wchar_t*& b) {
-  const wchar_t* const startOfA = a;
-  const wchar_t* const startOfB = b;
-  while (*a == L'0') ++a;
-  while (*b == L'0') ++b;
-  const auto zerosOfA = a - startOfA;
-  const auto zerosOfB = b - startOfB;
+  std::ptrdiff_t moreZeros = 0;  // in the left text
+  for (; *a == L'0'; ++a) ++moreZeros;
+  for (; *b == L'0'; ++b) --moreZeros;
   std::uint32_t valueOfA = 0;
   std::uint32_t valueOfB = 0;
-  for (; IsDecimalDigit(*a); ++a) valueOfA = valueOfA * 10u + (static_cast<std::uint32_t>(*a) - U'0');
-  for (; IsDecimalDigit(*b); ++b) valueOfB = valueOfB * 10u + (static_cast<std::uint32_t>(*b) - U'0');
+  // Numbers beside each other in an order are mostly of one length, and are read in one go.
+  for (; IsDecimalDigit(*a) && IsDecimalDigit(*b); ++a, ++b) {
+    valueOfA = valueOfA * 10u + DigitValue(*a);
+    valueOfB = valueOfB * 10u + DigitValue(*b);
+  }
+  for (; IsDecimalDigit(*a); ++a) valueOfA = valueOfA * 10u + DigitValue(*a);
+  for (; IsDecimalDigit(*b); ++b) valueOfB = valueOfB * 10u + DigitValue(*b);
   if (valueOfA != valueOfB) {
     return static_cast<std::int32_t>(valueOfA) < static_cast<std::int32_t>(valueOfB) ? -1 : 1;
   }
-  return zerosOfA == zerosOfB ? 0 : (zerosOfA < zerosOfB ? -1 : 1);
+  return moreZeros == 0 ? 0 : (moreZeros < 0 ? -1 : 1);
 }
 
 }  // namespace detail
@@ -39,28 +50,27 @@ constexpr int CompareNumbers(const wchar_t*& a, const wchar_t*& b) {
 /// the numbers round.
 template <bool Signed>
 constexpr bool IsNaturallyBefore(const wchar_t* a, const wchar_t* b) {
+  [[maybe_unused]] wchar_t before = L'\0';  // what both texts have before the place that is looked at
   for (;;) {
     const wchar_t left = *a;
     const wchar_t right = *b;
-    bool negative = false;
-    if (!IsDecimalDigit(left) || !IsDecimalDigit(right)) {
-      if (left != right) {
-        const auto upperLeft = static_cast<std::uint16_t>(FoldCase(left));
-        const auto upperRight = static_cast<std::uint16_t>(FoldCase(right));
-        // The end is less than anything else, but as 16 bits it may look the same.
-        if (upperLeft != upperRight) return upperLeft < upperRight;
-        if (left == L'\0' || right == L'\0') return left == L'\0';
-      } else if (left == L'\0') {
-        return false;
-      }
-      ++a;
-      ++b;
-      // A sign counts only for the number right behind it, so it never has to be remembered any further.
-      if constexpr (Signed) negative = left == L'-';
-      if (!negative || !IsDecimalDigit(*a) || !IsDecimalDigit(*b)) continue;
+    if (left == right && !IsDecimalDigit(left)) {
+      if (left == L'\0') return false;
+    } else if (std::max(DigitValue(left), DigitValue(right)) <= 9u) {
+      const bool negative = Signed && before == L'-';
+      const int order = detail::CompareNumbers(a, b);
+      if (order != 0) return (order < 0) != negative;
+      continue;
+    } else {
+      const auto upperLeft = static_cast<std::uint16_t>(FoldCase(left));
+      const auto upperRight = static_cast<std::uint16_t>(FoldCase(right));
+      if (upperLeft != upperRight) return upperLeft < upperRight;
+      // The end is less than anything else, but as 16 bits it may look the same.
+      if (left == L'\0' || right == L'\0') return left == L'\0';
     }
-    const int order = detail::CompareNumbers(a, b);
-    if (order != 0) return (order < 0) != negative;
+    if constexpr (Signed) before = left;
+    ++a;
+    ++b;
   }
 }
 

@@ -53,7 +53,7 @@ constexpr bool PutNumber(OrderKeyBytes& bytes, const wchar_t*& text, bool revers
   while (*text == L'0') ++text;
   const auto zeros = text - start;
   std::uint32_t value = 0;
-  for (; IsDecimalDigit(*text); ++text) value = value * 10u + (static_cast<std::uint32_t>(*text) - U'0');
+  for (; IsDecimalDigit(*text); ++text) value = value * 10u + DigitValue(*text);
 
   const bool negative = (value & 0x80000000u) != 0;
   std::uint32_t size = 0;
