@@ -59,6 +59,45 @@ void ExtendByItems(const BoardGeometry& geometry, QRectF& bounds, bool& any, con
   }
 }
 
+// Everything has look 0.
+LookTable FirstLooks(const Board& board) {
+  LookTable table;
+  table.nets.assign(board.nets.size(), 0);
+  table.components.assign(board.components.size(), 0);
+  table.layers.assign(board.layers.size(), 0);
+  table.netsOnSelected = table.nets;
+  table.componentsOnSelected = table.components;
+  table.selectedLayers.assign(board.layers.size(), false);
+  return table;
+}
+
+std::uint32_t NumberOf(const CompareLook& look, std::vector<CompareLook>& looks) {
+  const auto known = std::find(looks.begin(), looks.end(), look);
+  const auto number = static_cast<std::uint32_t>(known - looks.begin());
+  if (known == looks.end()) looks.push_back(look);
+  return number;
+}
+
+// `own` is the look that is not dimmed.
+void PutLook(LookTable& table, CompareSubject::Kind kind, std::int32_t id, std::uint32_t look, std::uint32_t own) {
+  if (id < 0) return;  // the board does not have it
+  const auto at = static_cast<std::size_t>(id);
+  switch (kind) {
+    case CompareSubject::Kind::Net:
+      table.nets[at] = look;
+      table.netsOnSelected[at] = own;
+      break;
+    case CompareSubject::Kind::Component:
+      table.components[at] = look;
+      table.componentsOnSelected[at] = own;
+      break;
+    case CompareSubject::Kind::Layer:
+      table.layers[at] = look;
+      table.selectedLayers[at] = look == own;
+      break;
+  }
+}
+
 }  // namespace
 
 BoardSession::BoardSession(LoadedBoards boards, oxcore::Mainframe* mainframe)
@@ -90,36 +129,30 @@ BoardStyle BoardSession::StyleOf(const ViewStyle& view) const {
   return style;
 }
 
+// What is not selected is dimmed, but for what lies on a layer that is.
 CompareStyle BoardSession::CompareStyleOf(const ViewStyle& view) const {
   CompareStyle style;
   style.view = view;
   style.looks.push_back({CompareTree::kColorA, CompareTree::kColorB, CompareTree::kColorOverlap,
                          oxk::ecad::CompareColorVis::Both, false});
-  for (const auto& [board, table] : {std::pair(boards_.a.get(), &style.a), std::pair(boards_.b.get(), &style.b)}) {
-    table->nets.assign(board->nets.size(), 0);
-    table->components.assign(board->components.size(), 0);
-    table->layers.assign(board->layers.size(), 0);
-  }
+  style.a = FirstLooks(*boards_.a);
+  style.b = FirstLooks(*boards_.b);
   const CompareTree& compare = *trees_->Compare();
   const std::vector<std::size_t>& selected = compare.Selected();
   const bool dimOthers = !selected.empty() && selected.size() < compare.Subjects().size();
-  const auto tableOf = [](LookTable& tables, CompareSubject::Kind kind) -> std::vector<std::uint32_t>& {
-    if (kind == CompareSubject::Kind::Net) return tables.nets;
-    return kind == CompareSubject::Kind::Component ? tables.components : tables.layers;
-  };
   for (std::size_t i = 0; i < compare.Subjects().size(); ++i) {
     const CompareSubject& subject = compare.Subjects()[i];
     CompareLook look = compare.LookOf(i);
-    if (dimOthers && !std::binary_search(selected.begin(), selected.end(), i)) {
+    const std::uint32_t own = NumberOf(look, style.looks);
+    const bool dim = dimOthers && !std::binary_search(selected.begin(), selected.end(), i);
+    if (dim) {
       for (Color* color : {&look.colorA, &look.colorB, &look.colorOverlap}) {
         *color = DimmedColor(*color, view.background);
       }
     }
-    const auto known = std::find(style.looks.begin(), style.looks.end(), look);
-    const auto number = static_cast<std::uint32_t>(known - style.looks.begin());
-    if (known == style.looks.end()) style.looks.push_back(look);
-    if (subject.a >= 0) tableOf(style.a, subject.kind)[static_cast<std::size_t>(subject.a)] = number;
-    if (subject.b >= 0) tableOf(style.b, subject.kind)[static_cast<std::size_t>(subject.b)] = number;
+    const std::uint32_t number = dim ? NumberOf(look, style.looks) : own;
+    PutLook(style.a, subject.kind, subject.a, number, own);
+    PutLook(style.b, subject.kind, subject.b, number, own);
   }
   style.layers = VisibleLayers();
   return style;

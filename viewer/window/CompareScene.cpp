@@ -49,8 +49,11 @@ ShownParts PartsOf(ShowMode mode) {
 }
 
 std::uint32_t LookTable::LookOf(const ItemOrigin& origin, LayerId layer) const {
-  if (origin.net != kNoNet) return nets[static_cast<std::size_t>(origin.net)];
-  if (origin.component != kNoComponent) return components[static_cast<std::size_t>(origin.component)];
+  const bool selected = selectedLayers[static_cast<std::size_t>(layer)];
+  if (origin.net != kNoNet) return (selected ? netsOnSelected : nets)[static_cast<std::size_t>(origin.net)];
+  if (origin.component != kNoComponent) {
+    return (selected ? componentsOnSelected : components)[static_cast<std::size_t>(origin.component)];
+  }
   return layers[static_cast<std::size_t>(layer)];
 }
 

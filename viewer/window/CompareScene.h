@@ -18,6 +18,10 @@ struct LookTable {
   std::vector<std::uint32_t> nets;
   std::vector<std::uint32_t> components;
   std::vector<std::uint32_t> layers;
+  /// Looks of nets and components on layers that are selected themselves.
+  std::vector<std::uint32_t> netsOnSelected;
+  std::vector<std::uint32_t> componentsOnSelected;
+  std::vector<bool> selectedLayers;
 
   /// A net's items have the look of the net, a component's those of the component, anything else that of its layer.
   std::uint32_t LookOf(const ItemOrigin& origin, LayerId layer) const;

@@ -115,6 +115,16 @@ TEST_F(CompareWindowTest, DimBoxDimsTheOverlap) {
   EXPECT_LT(qRed(ColorAt(10, 10)), qRed(kBothHave) / 2);
 }
 
+TEST_F(CompareWindowTest, SelectedLayerStandsOutWithAllThatLiesOnIt) {
+  ClickNode(Panel(), "layers/layer:F.Cu");
+  EXPECT_EQ(Colors(), (std::vector<QRgb>{kA, kBothHave, kB}));
+  ClickNode(Panel(), "layers/layer:B.Cu");
+  const std::vector<QRgb> dimmed = Colors();
+  EXPECT_LT(qRed(dimmed[0]), qRed(kA) / 2);
+  EXPECT_LT(qRed(dimmed[1]), qRed(kBothHave) / 2);
+  EXPECT_LT(qBlue(dimmed[2]), qBlue(kB) / 2);
+}
+
 TEST_F(CompareWindowTest, ChosenColourOfAShowsAtOnce) {
   ChooseColor("nets/net:N", kColumnA, kA, 0x00FF00);
   EXPECT_EQ(Colors(), (std::vector<QRgb>{0x00FF00, kBothHave, kB}));
