@@ -1,7 +1,7 @@
 #include <oxk/detail/FileTransfer.h>
 
 #include <cerrno>
-#include <system_error>
+#include <cstring>
 #include <utility>
 
 namespace oxk {
@@ -100,6 +100,10 @@ int ReplaceFile(FileOperations& operations, const std::string& folder, const std
   return FlushFolder(operations, folder);
 }
 
-std::string ErrorText(int error) { return std::generic_category().message(error); }
+std::string ErrorText(int error) {
+  // Neither strerror nor an error category: their texts follow the locale.
+  const char* const text = strerrordesc_np(error);
+  return text ? text : "error " + std::to_string(error);
+}
 
 }  // namespace oxk

@@ -20,7 +20,7 @@ int ReadWholeFile(FileOperations& operations, const std::string& path, std::size
 int ReplaceFile(FileOperations& operations, const std::string& folder, const std::string& temporary,
                 const std::string& path, std::string_view content);
 
-/// The system's words for an error code.
+/// The system's English words for an error code, whatever the locale.
 std::string ErrorText(int error);
 
 }  // namespace oxk
