@@ -1,6 +1,7 @@
 #include <uiox_qt/Icons.h>
 
 #include <uiox/Suite.h>
+#include <uiox_qt/Contrast.h>
 #include <uiox_qt/ImageScaling.h>
 #include <uiox_qt/ImageWords.h>
 #include <uiox_qt/SignIcons.h>
@@ -25,6 +26,7 @@ constexpr qsizetype kMostImages = 16384;
 struct Made {
   int side;
   qreal ratio;
+  QRgb ground;
   QPixmap pixmap;
 };
 
@@ -69,9 +71,24 @@ void PaintLetter(QImage& image, QRgb color) {
   font.setPixelSize(std::max(1, image.height() * 3 / 4));
   font.setBold(true);
   painter.setFont(font);
-  constexpr int kMiddle = 140;
-  painter.setPen(qGray(color) > kMiddle ? Qt::black : Qt::white);
+  painter.setPen(QColor(ReadableOn(color)));
   painter.drawText(QRectF(0, 0, image.width(), image.height()), Qt::AlignCenter, ColorWord(color).left(1).toUpper());
+}
+
+/// What squares lie on, as long as nothing else is painted behind them.
+QRgb Ground() { return QApplication::palette().color(QPalette::Base).rgb(); }
+
+/// A frame in the colour of texts around a square that could hardly be seen on the ground, itself and its edge.
+void FrameWherePale(QImage& image, QRgb color, qreal ratio) {
+  const QColor edge = image.pixelColor(0, image.height() / 2);
+  const bool edge_seen = edge.alpha() == 255 && Contrast(edge.rgb(), Ground()) >= kLeastSignContrast;
+  if (edge_seen || Contrast(color, Ground()) >= kLeastSignContrast) return;
+  const int width = std::max(1, qRound(ratio));
+  QPainter painter(&image);
+  QRegion frame(image.rect());
+  frame -= image.rect().adjusted(width, width, -width, -width);
+  painter.setClipRegion(frame);
+  painter.fillRect(image.rect(), QApplication::palette().color(QPalette::Text));
 }
 
 QImage MakeImage(std::string_view name, int side, qreal ratio) {
@@ -81,10 +98,11 @@ QImage MakeImage(std::string_view name, int side, qreal ratio) {
   uiox::Image drawn;
   if (IsBuiltIn(name, *found) && uiox::DrawBuiltInImage(name, pixels, drawn)) return ToQImage(drawn);
   QImage image = Fitted(ToQImage(*found), side, ratio);
-  const auto color = letters_in_squares ? ColorOfSquare(name) : std::nullopt;
+  const auto color = ColorOfSquare(name);
   if (!color) return image;
   image = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-  PaintLetter(image, *color);
+  FrameWherePale(image, *color, ratio);
+  if (letters_in_squares) PaintLetter(image, *color);
   return image;
 }
 
@@ -135,7 +153,7 @@ QPixmap ImagePixmap(std::string_view name, int side, qreal ratio) {
   const auto known = Cache().constFind(key);
   if (known != Cache().constEnd()) {
     for (const Made& made : *known) {
-      if (made.side == side && qFuzzyCompare(made.ratio, ratio)) return made.pixmap;
+      if (made.side == side && made.ground == Ground() && qFuzzyCompare(made.ratio, ratio)) return made.pixmap;
     }
   }
   const QImage image = MakeImage(name, side, ratio);
@@ -143,7 +161,7 @@ QPixmap ImagePixmap(std::string_view name, int side, qreal ratio) {
   QPixmap pixmap = QPixmap::fromImage(image);
   pixmap.setDevicePixelRatio(ratio);
   if (Cache().size() >= kMostImages) Cache().clear();
-  Cache()[key].push_back({side, ratio, pixmap});
+  Cache()[key].push_back({side, ratio, Ground(), pixmap});
   return pixmap;
 }
 

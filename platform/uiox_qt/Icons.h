@@ -18,7 +18,7 @@ constexpr int kIconSide = 16;
 
 /// An image by its name, for `side` device-independent pixels on a device with `ratio` pixels to each; null when there
 /// is no such image. The images that come with the toolkit are drawn for that size; others keep their pixels' edges
-/// when they are enlarged.
+/// when they are enlarged. A colour square that could hardly be seen on the application's ground for lists has a frame.
 OXECAD_UIOX_QT_API QPixmap ImagePixmap(std::string_view name, int side, qreal ratio);
 
 /// An image was defined anew: what was made of it is forgotten.

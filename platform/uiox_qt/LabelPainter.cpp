@@ -1,5 +1,6 @@
 #include <uiox_qt/LabelPainter.h>
 
+#include <uiox_qt/Contrast.h>
 #include <uiox_qt/Icons.h>
 #include <uiox_qt/Markup.h>
 
@@ -41,7 +42,7 @@ class TextSegment {
     if (own_colors && run.background.isValid()) {
       range.format.setBackground(run.background);
       // A text without a colour of its own must be readable on whatever is behind it.
-      if (!run.color.isValid()) range.format.setForeground(qGray(run.background.rgb()) > 127 ? Qt::black : Qt::white);
+      if (!run.color.isValid()) range.format.setForeground(QColor(ReadableOn(run.background.rgb())));
     }
     if (own_colors && run.color.isValid()) range.format.setForeground(run.color);
     formats_.append(range);
