@@ -3,6 +3,7 @@
 #include <uiox/UserEvents.h>
 #include <uiox_qt/Text.h>
 
+#include <QAbstractItemView>
 #include <QPointer>
 
 namespace uiox_qt {
@@ -17,7 +18,10 @@ OptionMenuView::OptionMenuView(uiox::Widget& component) : ComponentView(componen
 }
 
 void OptionMenuView::FollowOwn(uiox::WidgetChange change) {
-  if (change == uiox::WidgetChange::Label) setAccessibleName(FromWide(Component()->Label()));
+  if (change == uiox::WidgetChange::Label) {
+    setAccessibleName(FromWide(Component()->Label()));
+    view()->setAccessibleName(accessibleName());
+  }
   if (change == uiox::WidgetChange::Items || change == uiox::WidgetChange::SelectedItem) {
     FillOptionBox(*this, *Component());
   }

@@ -122,6 +122,7 @@ void MainWindow::Build() {
   place_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("X 0000.000 mm  Y 0000.000 mm  ")));
   zoom_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("00000 px/mm ")));
   TakeSettings();
+  view_->setAccessibleName(tr("Board"));
   view_->SetHint(tr("Open a board with Ctrl+O, or drop a .kicad_pcb file here"));
   UpdateActions();
   UpdateTitle();

@@ -8,6 +8,7 @@
 
 #include <utility>
 
+#include <uiox/Device.h>
 #include <uiox/TreeWidget.h>
 #include <uiox_qt/Markup.h>
 #include <uiox_qt/Text.h>
@@ -23,6 +24,7 @@ TreePanel::TreePanel(uiox_qt::TreeView& view, const QString& placeholder, QWidge
   layout->setSpacing(4);
   layout->addLayout(top_);
   layout->addWidget(view_, 1);
+  view_->setAccessibleName(uiox_qt::FromWide(view_->Tree()->Owner().Label()));
   view_->show();
   top_->addWidget(filter_, 1);
   connect(filter_, &FilterLine::Changed, this, [this] { Refilter(); });

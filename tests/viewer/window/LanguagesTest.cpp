@@ -106,6 +106,11 @@ TEST_F(LanguagesTest, EveryTextOfTheWindowIsTranslated) {
   for (const QLabel* label : Window().findChildren<QLabel*>()) {
     if (label->text() != "%" && label->text() != "mm") expect(label->text(), "label");
   }
+  for (TreePanel* panel : {&Window().LayersPanel(), &Window().NetsPanel(), &Window().ComponentsPanel(),
+                           &Window().PartsPanel(), &Window().Comparison().Panel()}) {
+    expect(panel->View().accessibleName(), "name of a tree");
+  }
+  expect(View().accessibleName(), "name of the board");
   for (const char* node : {"layers:copper", "layers:technical", "layers:active"}) {
     expect(IndexOf(Window().LayersPanel(), node).data().toString(), node);
   }

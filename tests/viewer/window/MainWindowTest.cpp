@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QColorDialog>
 #include <QComboBox>
 #include <QLabel>
@@ -326,6 +327,23 @@ TEST_F(SettingsTest, AreThereAgainInTheNextWindow) {
   MakeWindow();
   EXPECT_EQ(Field<QLineEdit>("Grid").text(), "50");
   EXPECT_EQ(Field<QComboBox>("Unit of the grid").currentText(), "mil");
+}
+
+// --- Screen readers --------------------------------------------------------------------------------------------------
+
+TEST_F(MainWindowTest, EverythingThatTakesTheKeyboardHasAName) {
+  Compare(SmallBoard(kWindowBoard), SmallBoard(kWindowBoard));
+  int named = 0;
+  for (QWidget* widget : Window().findChildren<QWidget*>()) {
+    if (widget->focusPolicy() == Qt::NoFocus || !widget->isEnabled() || widget->focusProxy()) continue;
+    const QAccessibleInterface* said = QAccessible::queryAccessibleInterface(widget);
+    // Of a button with a sign the tooltip is said.
+    const QString name = said ? said->text(QAccessible::Name) + said->text(QAccessible::Description) : QString();
+    EXPECT_FALSE(name.isEmpty()) << widget->metaObject()->className() << " of "
+                                 << widget->parentWidget()->metaObject()->className();
+    ++named;
+  }
+  EXPECT_GT(named, 10);
 }
 
 // --- Renaming --------------------------------------------------------------------------------------------------------
