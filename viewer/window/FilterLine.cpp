@@ -24,8 +24,7 @@ FilterLine::FilterLine(const QString& placeholder, QWidget* parent)
   button_->setFocusPolicy(Qt::NoFocus);
   button_->setToolButtonStyle(Qt::ToolButtonTextOnly);
   // A menu of the button's own would put its arrow over the text.
-  connect(button_, &QToolButton::clicked, this,
-          [this] { menu_->popup(button_->mapToGlobal(QPoint(0, button_->height()))); });
+  connect(button_, &QToolButton::clicked, this, [this] { OpenSyntaxMenu(); });
   button_->setToolTip(tr("How the filter's text is understood"));
   MakeMenu();
   NameSyntax();
@@ -47,6 +46,8 @@ void FilterLine::MakeMenu() {
     connect(action, &QAction::triggered, this, [this, syntax] { SetSyntax(syntax); });
   }
 }
+
+void FilterLine::OpenSyntaxMenu() { menu_->popup(button_->mapToGlobal(QPoint(0, button_->height()))); }
 
 void FilterLine::NameSyntax() {
   const QString names[] = {tr("Text"), tr("Wildcards"), tr("Expression")};
@@ -76,6 +77,7 @@ void FilterLine::Begin(const QString& text) {
 void FilterLine::ShowError() {
   const QString error = Matcher().Error();
   setToolTip(error);
+  setAccessibleDescription(error);
   QFont shown = font();
   shown.setStrikeOut(!error.isEmpty());
   setFont(shown);
@@ -118,6 +120,9 @@ void FilterLine::keyPressEvent(QKeyEvent* event) {
       Q_EMIT Left();
       return;
     case Qt::Key_Down:
+      if (event->modifiers() & Qt::AltModifier) return OpenSyntaxMenu();
+      Q_EMIT Left();
+      return;
     case Qt::Key_Return:
     case Qt::Key_Enter:
       Q_EMIT Left();

@@ -12,8 +12,8 @@ class QToolButton;
 
 namespace oxviewer {
 
-/// A line of text with the name of its syntax in front, where it can be changed. One syntax holds at a time. A wrong
-/// expression is shown as such, with the reason as a tooltip.
+/// A line of text with the name of its syntax in front, where it can be changed, also with Alt and Down. One syntax
+/// holds at a time. A wrong expression is shown as such, with the reason as a tooltip.
 class FilterLine : public QLineEdit {
   Q_OBJECT
 
@@ -45,6 +45,7 @@ class FilterLine : public QLineEdit {
 
  private:
   void MakeMenu();
+  void OpenSyntaxMenu();
   void NameSyntax();
   void PlaceButton();
   void ShowError();

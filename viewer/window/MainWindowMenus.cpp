@@ -277,6 +277,7 @@ void MainWindow::ShowShortcuts() {
       {tr("Ctrl+Z, Ctrl+Shift+Z"), tr("undo and redo colours, checks and selections")},
       {tr("F3, Shift+F3"), tr("next and previous difference")},
       {tr("A letter in a tree"), tr("narrow the tree to names with it")},
+      {tr("Alt+Down in a filter line"), tr("choose how its text is understood")},
       {tr("Ctrl+C in a tree"), tr("copy the selected names")},
       {tr("Shift+Right in a tree"), tr("expand all below")},
       {tr("Double click or Enter on a layer"), tr("choose its colour")},

@@ -172,11 +172,26 @@ TEST_F(TreeGesturesTest, FilterIsReadInTheSyntaxThatTheBoxNames) {
   EXPECT_FALSE(IsHidden(Nets(), "net:XABC"));
 }
 
+TEST_F(TreeGesturesTest, SyntaxIsChosenWithTheKeyboard) {
+  FilterLine& filter = Nets().Filter();
+  filter.setFocus();
+  QTest::keyClick(&filter, Qt::Key_Down, Qt::AltModifier);
+  Settle();
+  ASSERT_TRUE(filter.SyntaxMenu().isVisible());
+  QTest::keyClick(&filter.SyntaxMenu(), Qt::Key_Down);
+  QTest::keyClick(&filter.SyntaxMenu(), Qt::Key_Down);
+  QTest::keyClick(&filter.SyntaxMenu(), Qt::Key_Return);
+  EXPECT_EQ(filter.Syntax(), SearchSyntax::Wildcards);
+  QTest::keyClick(&filter, Qt::Key_Down);
+  EXPECT_TRUE(Nets().View().hasFocus());
+}
+
 TEST_F(TreeGesturesTest, WrongExpressionIsSaidAndLeavesWhatWasShown) {
   Nets().Filter().SetSyntax(SearchSyntax::Expression);
   Nets().Filter().setText("GND");
   Nets().Filter().setText("GND(");
   EXPECT_FALSE(Nets().Filter().toolTip().isEmpty());
+  EXPECT_EQ(Nets().Filter().accessibleDescription(), Nets().Filter().toolTip());
   EXPECT_FALSE(IsHidden(Nets(), "net:GND"));
   EXPECT_TRUE(IsHidden(Nets(), "net:VCC"));
   Nets().Filter().clear();
