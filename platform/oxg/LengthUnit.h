@@ -12,13 +12,13 @@ class OXECAD_PLATFORM_EXPORT LengthUnit {
  public:
   /// The codes of the units.
   enum Code : unsigned char {
-    Millimetre = 0,
-    Micrometre = 1,
-    Inch = 2,  ///< 25.4 mm
-    Mil = 3,   ///< a thousandth of an inch
-    Nanometre = 4,
-    Centimetre = 5,
-    Metre = 6
+    Millimetre = 0,  ///< a thousandth of a metre
+    Micrometre = 1,  ///< a thousandth of a millimetre
+    Inch = 2,        ///< 25.4 mm
+    Mil = 3,         ///< a thousandth of an inch
+    Nanometre = 4,   ///< a millionth of a millimetre
+    Centimetre = 5,  ///< ten millimetres
+    Metre = 6        ///< a thousand millimetres
   };
 
   /// Converts a value from one unit to another. `exponent` is the power of the length that the value measures: 1 a

@@ -41,7 +41,7 @@ class OXECAD_UI_EXPORT CompareColorTree : public Tree {
   /// Which of two designs are shown; the platform's.
   using ShowMode = oxk::ecad::CompareColorVis::ShowMode;
 
-  /// In which designs a node exists; a set of bits.
+  /// In which designs a node exists: none, the first (A), the second (B) or both; a set of bits.
   enum DesignFlag : std::uint32_t { DesignNone = 0, DesignA = 1, DesignB = 2, DesignBoth = 3 };
 
   /// A compare node with its five values and where it exists.

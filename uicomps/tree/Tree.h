@@ -27,8 +27,8 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
  public:
   /// What a node's check box shows.
   enum NodeState : std::uint32_t {
-    Unchecked = 0,
-    Checked = 1,
+    Unchecked = 0,     ///< the box is empty
+    Checked = 1,       ///< the box is ticked
     PartlyChecked = 2  ///< the node shows the mixed mark
   };
 
@@ -240,11 +240,11 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
 
   /// What the dirty handler is told.
   enum DirtyReason : int {
-    ValueChanged = 1,
-    SetChanged = 2,
-    SelectionChanged = 3,
-    NodeExpanded = 4,
-    NodeCollapsed = 5
+    ValueChanged = 1,      ///< a colour or another value, a check, or an `EcadTree` was activated
+    SetChanged = 2,        ///< the set of checked or selected nodes
+    SelectionChanged = 3,  ///< the selection of a `ColorTree`
+    NodeExpanded = 4,      ///< the user has expanded a node
+    NodeCollapsed = 5      ///< the user has collapsed a node
   };
 
   /// Reads name, label, state, type and expanded flag of a node, whose name is not null, in this order.
