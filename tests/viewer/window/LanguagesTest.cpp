@@ -5,11 +5,14 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QColorDialog>
+#include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QTabBar>
 
 #include <gtest/gtest.h>
@@ -131,6 +134,47 @@ TEST_F(LanguagesTest, GermanHasEveryTextThatIsAskedFor) {
   }
 }
 
+/// Collects what the dialogs of Qt itself say.
+class QtTexts : public QTranslator {
+ public:
+  bool isEmpty() const override { return false; }
+  QString translate(const char* context, const char* text, const char*, int) const override {
+    if (std::string(context) != "QGuiApplication") asked_.insert(text);
+    return {};
+  }
+  const std::set<std::string>& Asked() const { return asked_; }
+
+ private:
+  mutable std::set<std::string> asked_;
+};
+
+TEST(Languages, DialogsOfQtAndTheNamesOfKeysAreGermanToo) {
+  QtTexts texts;
+  QCoreApplication::installTranslator(&texts);
+  QColorDialog color;
+  color.setOption(QColorDialog::DontUseNativeDialog);
+  color.show();
+  QMessageBox message(QMessageBox::Warning, "title", "text", QMessageBox::Ok);
+  message.show();
+  QFileDialog open;
+  open.setOption(QFileDialog::DontUseNativeDialog);
+  open.show();
+  QFileDialog save(nullptr, "title");
+  save.setOption(QFileDialog::DontUseNativeDialog);
+  save.setAcceptMode(QFileDialog::AcceptSave);
+  save.show();
+  QLineEdit line;
+  const std::unique_ptr<QMenu> menu(line.createStandardContextMenu());
+  for (const auto key : {Qt::Key_F1, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End, Qt::Key_Down}) {
+    QKeySequence(Qt::CTRL | Qt::SHIFT | key).toString(QKeySequence::NativeText);
+  }
+  QCoreApplication::processEvents();
+  QCoreApplication::removeTranslator(&texts);
+  const auto german = TranslatorFor("de");
+  EXPECT_GT(texts.Asked().size(), 50u);
+  for (const std::string& text : texts.Asked()) EXPECT_TRUE(german->Has(QString::fromStdString(text))) << text;
+}
+
 class LanguageChangeTest : public WindowFixture {
  protected:
   void TearDown() override {
@@ -163,6 +207,7 @@ TEST_F(LanguageChangeTest, ShowsAtOnceAndBackAgain) {
   const QStringList english = MenuTitles();
   Choose("German");
   EXPECT_EQ(MenuTitles().at(1), "Bearbeiten");
+  EXPECT_EQ(QKeySequence(QKeySequence::Open).toString(QKeySequence::NativeText), "Strg+O");
   EXPECT_EQ(LabelOf(Window().PartsPanel(), "kind:3"), "Widerstände (1)");
   EXPECT_EQ(ReadPreferences().language, "de");
   Choose("Englisch");
