@@ -3,9 +3,9 @@
 
 #include <QGridLayout>
 #include <QLabel>
-#include <QPainter>
 #include <QPixmap>
 
+#include <uicomps/color/ColorIconBag.h>
 #include <uiox_qt/Icons.h>
 #include <uiox_qt/ImageWords.h>
 
@@ -21,12 +21,10 @@ constexpr const char* kShowModes[] = {"ecad_compare_show_both.png", "ecad_compar
                                       "ecad_compare_show_b-a.png",  "ecad_compare_show_overlap.png",
                                       "ecad_compare_show_diff.png"};
 
+// The same as in the trees.
 QPixmap Square(Color color, qreal ratio) {
-  QPixmap pixmap(QSize(kSide, kSide) * ratio);
-  pixmap.setDevicePixelRatio(ratio);
-  pixmap.fill(QColor(RedOf(color), GreenOf(color), BlueOf(color)));
-  QPainter(&pixmap).drawRect(QRectF(0, 0, kSide - 1, kSide - 1));
-  return pixmap;
+  const char* const icon = oxecad_ui::ColorIconBag::Get().GetColorIcon("color_square.png", color);
+  return icon ? uiox_qt::ImagePixmap(icon, kSide, ratio) : QPixmap();
 }
 
 }  // namespace

@@ -125,6 +125,15 @@ TEST_F(LegendTest, NamesTheVisibleLayersTheComparisonAndTheShowModes) {
     EXPECT_TRUE(words.contains(word)) << word << " in " << words.join('|').toStdString();
   }
   EXPECT_TRUE(words.filter("B.Cu").isEmpty());
+  TreePanel& layers = Window().LayersPanel();
+  const QImage square =
+      uiox_qt::ImagePixmap(layers.View().Model().ImageName(layers.View().Tree()->Store().Find("layer:F.Cu")), 16, 1)
+          .toImage();
+  ASSERT_FALSE(square.isNull());
+  const QList<QLabel*> labels = legend->findChildren<QLabel*>();
+  EXPECT_TRUE(std::any_of(labels.begin(), labels.end(), [&](const QLabel* label) {
+    return label->pixmap(Qt::ReturnByValue).toImage() == square;
+  })) << "the square of the tree";
 }
 
 }  // namespace
