@@ -23,8 +23,9 @@ OXECAD_UIOX_QT_API QPixmap ImagePixmap(std::string_view name, int side, qreal ra
 
 /// An image was defined anew: what was made of it is forgotten.
 void ForgetImage(std::string_view name);
-/// Nobody watches the images any more: what was made of them is forgotten.
-void ForgetImages();
+/// What was made of all images is forgotten: nobody watches them any more, or their letters are those of another
+/// language.
+OXECAD_UIOX_QT_API void ForgetImages();
 
 /// Whether colour squares show the first letter of their colour's word, for eyes that cannot tell all colours apart.
 /// Not at first.

@@ -23,6 +23,7 @@
 
 #include <uiox/TreeWidget.h>
 #include <uiox/UserEvents.h>
+#include <uiox_qt/Icons.h>
 #include <uiox_qt/TreeView.h>
 
 namespace oxviewer {
@@ -127,6 +128,7 @@ void MainWindow::Retranslate() {
   view_->setParent(nullptr);
   delete takeCentralWidget();
   RemovePanels();
+  uiox_qt::ForgetImages();
 
   Build();
   Show(sight, *this);

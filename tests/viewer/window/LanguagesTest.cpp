@@ -22,6 +22,7 @@
 #include <string>
 #include <vector>
 
+#include <uiox_qt/Icons.h>
 #include <uiox_qt/ImageWords.h>
 #include <uiox_qt/NodeWords.h>
 
@@ -245,6 +246,20 @@ TEST_F(LanguageChangeTest, WindowWithoutABoardChangesToo) {
   EXPECT_EQ(MenuTitles().at(1), "Bearbeiten");
   Show(SmallBoard(kWindowBoard));
   EXPECT_EQ(LabelOf(Window().LayersPanel(), "layers:copper"), "Kupfer");
+}
+
+TEST_F(LanguageChangeTest, LettersInSquaresAreThoseOfTheLanguage) {
+  Show(SmallBoard(kWindowBoard));
+  Session().Trees().Layers().SetColor(0, ColorOf(0x90, 0xCA, 0xF0));  // light blue, "hellblau"
+  Choose("Letters in colour squares");
+  const auto square = [] { return uiox_qt::ImagePixmap("color_square.png_15780496", 16, 2).toImage(); };
+  const QImage english = square();
+  Choose("German");
+  const QImage german = square();
+  uiox_qt::ShowLettersInSquares(false);
+  ASSERT_FALSE(english.isNull());
+  EXPECT_NE(german, english);
+  EXPECT_NE(square(), german);
 }
 
 TEST_F(LanguageChangeTest, EveryActionIsThereOnce) {
