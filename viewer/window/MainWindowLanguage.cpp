@@ -131,7 +131,10 @@ void MainWindow::Retranslate() {
   uiox_qt::ForgetImages();
 
   Build();
+  // What was kept is older than what is seen.
+  auto kept = std::exchange(kept_, std::make_unique<KeptTrees>(KeptFile({}, {})));
   Show(sight, *this);
+  kept_ = std::move(kept);
   compare_->SetDifferencesOnly(differencesOnly);
   actions_->flip->setChecked(flipped);
   actions_->references->setChecked(references);

@@ -241,6 +241,21 @@ TEST_F(LanguageChangeTest, LeavesAllThatIsSeenButTheWords) {
   EXPECT_FALSE(Window().Steps().CanUndo());
 }
 
+TEST_F(LanguageChangeTest, WhatWasKeptBeforeDoesNotComeBack) {
+  const QString file = QString::fromStdString(PreferencesFolder()) + "/trees.json";
+  Window().KeepTreesIn(file);
+  Show(SmallBoard(kWindowBoard));
+  const Color first = Session().Trees().Layers().ColorOfLayer(0);
+  Session().Trees().Layers().SetColor(0, ColorOf(1, 2, 3));
+  Show(SmallBoard(kWindowBoard));
+  ASSERT_EQ(Session().Trees().Layers().ColorOfLayer(0), ColorOf(1, 2, 3));
+  Session().Trees().Layers().SetColor(0, first);
+  Choose("German");
+  EXPECT_EQ(Session().Trees().Layers().ColorOfLayer(0), first);
+  Show(SmallBoard(kWindowBoard));
+  EXPECT_EQ(Session().Trees().Layers().ColorOfLayer(0), first) << "and it is kept";
+}
+
 TEST_F(LanguageChangeTest, WindowWithoutABoardChangesToo) {
   Choose("German");
   EXPECT_EQ(MenuTitles().at(1), "Bearbeiten");
