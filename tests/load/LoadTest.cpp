@@ -23,13 +23,13 @@ namespace {
 
 using namespace oxecad_ui;
 
-#ifdef __SANITIZE_ADDRESS__
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 constexpr bool kMeasured = false;
 #else
 constexpr bool kMeasured = true;
 #endif
 
-/// The full size in long runs, less otherwise, and least with the address sanitizer, which needs many times as much.
+/// The full size in long runs, less otherwise, and least with a sanitizer, which needs many times as much.
 int Sized(int full, int less, int least) {
   if (!kMeasured) return least;
   const char* wanted = std::getenv("OXECAD_LONG_TESTS");

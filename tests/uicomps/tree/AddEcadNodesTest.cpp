@@ -96,6 +96,28 @@ TEST_F(AddEcadNodes, SearchesAPlaceForFewAmongMany) {
   EXPECT_LE(toolkit.TakeLines().size(), 2u * 8u + 1u) << "one state is read for each record";
 }
 
+TEST_F(AddEcadNodes, ReadsEachRememberedSiblingOnceAmongMany) {
+  std::vector<std::string> names;
+  std::vector<std::wstring> labels;
+  for (int i = 0; i < 80; ++i) {
+    names.push_back("r" + std::to_string(i));
+    labels.push_back(L"R" + std::to_wstring(i));
+  }
+  std::vector<EcadNode> nodes;
+  for (std::size_t i = 0; i < 80; ++i) {
+    const EcadNode node = Net(names[i].c_str(), labels[i].c_str());
+    if (i % 2 == 0) {
+      AddByItself(tree, node);
+    } else {
+      nodes.push_back(node);
+    }
+  }
+  toolkit.TakeLines();
+  toolkit.WriteOnly([](const uiox::Call& call) { return call.code == 2203; });
+  tree.AddEcadNodes(nodes, Tree::ByLabel);
+  EXPECT_LE(toolkit.TakeLines().size(), 41u + 10u) << "one state is read for each record, and the first is searched";
+}
+
 TEST_F(AddEcadNodes, AnUnsupportedOrderAddsAtTheEnd) {
   testing::internal::CaptureStdout();
   EXPECT_EQ(
