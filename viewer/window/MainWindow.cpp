@@ -178,6 +178,7 @@ void MainWindow::MakePanels() {
   layerTabs_->addTab(layers_, tr("Layers"));
   layerTabs_->addTab(front_.WidgetFor(kSettingsPanel), tr("View"));
   for (QLineEdit* field : front_.WidgetFor(kSettingsPanel)->findChildren<QLineEdit*>()) TakeValueOnEnter(*field);
+  front_.ComponentFor(kSettingsPanel, "room")->setToolTip(tr("A length, or a sum such as 1.5mm + 20mil"));
   AlignLabels(front_, kSettingsPanel, {"gridLabel", "lineWidthLabel", "dimLabel", "roomLabel"});
   AlignLabels(front_, kSettingsPanel, {"gridUnit", "lineWidthUnit", "dimUnit", "roomUnit"});
   auto* left = new QSplitter(Qt::Vertical);

@@ -300,6 +300,7 @@ TEST_F(SettingsTest, LineWidthFollowsItsUnit) {
 
 TEST_F(SettingsTest, RoomIsReckonedWithUnits) {
   auto& field = Field<QLineEdit>("Room around what is shown");
+  EXPECT_TRUE(field.toolTip().contains("1.5mm + 20mil"));
   field.setFocus();
   field.selectAll();
   QTest::keyClicks(&field, "1.5mm + 20mil");
