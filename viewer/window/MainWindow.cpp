@@ -61,8 +61,8 @@ void AlignLabels(uiox_qt::QtFront& front, const char* device, std::initializer_l
 }
 
 // A value counts when its field is left: Enter leaves the field and comes back to it.
-void TakeValueOnEnter(QLineEdit& field) {
-  QObject::connect(&field, &QLineEdit::returnPressed, &field, [&field] {
+void TakeValueOnEnter(QLineEdit& field, const QObject& whileThisLives) {
+  QObject::connect(&field, &QLineEdit::returnPressed, &whileThisLives, [&field] {
     field.clearFocus();
     field.setFocus();
     field.selectAll();
@@ -118,6 +118,7 @@ void MainWindow::Build() {
   settings_->SetValues(remembered_.view);
   settings_->SetOnChange([this] { TakeSettings(); });
   MakePanels();
+  ArrangePanels();
   MakeActions();
   place_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("X 0000.000 mm  Y 0000.000 mm  ")));
   zoom_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("00000 px/mm ")));
@@ -167,6 +168,9 @@ void MainWindow::MakePanels() {
        {kLayersPanel, kNetsPanel, kComponentsPanel, kObjectsPanel, kComparePanel, kSettingsPanel}) {
     oxecad_ui::wire::ShowDevice(device);
   }
+}
+
+void MainWindow::ArrangePanels() {
   tabs_ = new QTabWidget;
   tabs_->setDocumentMode(true);
   tabs_->addTab(nets_, tr("Nets"));
@@ -176,8 +180,9 @@ void MainWindow::MakePanels() {
   layerTabs_ = new QTabWidget;
   layerTabs_->setDocumentMode(true);
   layerTabs_->addTab(layers_, tr("Layers"));
-  layerTabs_->addTab(front_.WidgetFor(kSettingsPanel), tr("View"));
-  for (QLineEdit* field : front_.WidgetFor(kSettingsPanel)->findChildren<QLineEdit*>()) TakeValueOnEnter(*field);
+  QWidget* settings = front_.WidgetFor(kSettingsPanel);
+  layerTabs_->addTab(settings, tr("View"));
+  for (QLineEdit* field : settings->findChildren<QLineEdit*>()) TakeValueOnEnter(*field, *this);
   front_.ComponentFor(kSettingsPanel, "room")->setToolTip(tr("A length, or a sum such as 1.5mm + 20mil"));
   AlignLabels(front_, kSettingsPanel, {"gridLabel", "lineWidthLabel", "dimLabel", "roomLabel"});
   AlignLabels(front_, kSettingsPanel, {"gridUnit", "lineWidthUnit", "dimUnit", "roomUnit"});

@@ -72,6 +72,7 @@ class MainWindow : public QMainWindow {
  private:
   void Build();
   void MakePanels();
+  void ArrangePanels();
   void MakeActions();
   void MakeFileMenu();
   void MakeEditMenu();
