@@ -96,6 +96,32 @@ TEST_F(AddEcadNodes, SearchesAPlaceForFewAmongMany) {
   EXPECT_LE(toolkit.TakeLines().size(), 2u * 8u + 1u) << "one state is read for each record";
 }
 
+TEST_F(AddEcadNodes, ReadsNoNodeOfFreshParentsThatTakeTurns) {
+  Plant(tree, "root\n  p\n  q");
+  std::vector<std::string> names;
+  for (int i = 0; i < 200; ++i) names.push_back("n" + std::to_string(i));
+  std::vector<EcadNode> nodes;
+  for (std::size_t i = 0; i < names.size(); ++i) nodes.push_back(Net(names[i].c_str(), L"x", i % 2 == 0 ? "p" : "q"));
+  toolkit.TakeLines();
+  toolkit.WriteOnly([](const uiox::Call& call) { return call.code == 2202 || call.code == 2203; });
+  tree.AddEcadNodes(nodes, Tree::ByLabel);
+  EXPECT_LE(toolkit.TakeLines().size(), 10u) << "one node is read back, and read once more as a sibling";
+}
+
+TEST_F(AddEcadNodes, ASiblingThatWasDeletedAndComesAgainCountsTwiceAsOneByOne) {
+  AddByItself(tree, Net("a", L"a"));
+  AddByItself(tree, Net("m", L"m"));
+  tree.DeleteNode("a");
+  // Where a is remembered first it reads "z" as soon as it is back, and what is less goes before it.
+  tree.AddEcadNodes({Net("k", L"k"), Net("a", L"z"), Net("b", L"b")}, Tree::ByLabel);
+  EXPECT_EQ(Drawn(tree, kNothingMore), R"(
+    root
+      k
+      m
+      b
+      a "z")");
+}
+
 TEST_F(AddEcadNodes, ReadsEachRememberedSiblingOnceAmongMany) {
   std::vector<std::string> names;
   std::vector<std::wstring> labels;

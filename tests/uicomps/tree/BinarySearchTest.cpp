@@ -17,7 +17,12 @@ class TableTree : public OpenTree {
     reads.push_back(node);
     EXPECT_EQ(info.name, "") << "each read gets a fresh default record";
     EXPECT_EQ(info.label, L"");
-    info.name = "touched";
+    EXPECT_EQ(info.type, "");
+    EXPECT_EQ(info.state, Tree::Unchecked);
+    EXPECT_FALSE(info.expanded);
+    info.name = info.type = "touched";
+    info.state = Tree::PartlyChecked;
+    info.expanded = true;
     int& refusals = refuse[node];
     if (refusals != 0) {
       if (refusals > 0) --refusals;

@@ -113,5 +113,26 @@ TEST(TreeCheck, LetsTheHandlerEndTheTree) {
   EXPECT_TRUE(toolkit.Registered().empty());
 }
 
+TEST_F(TreeEvents, AChangedNodeStandsAloneInTheListBeforeTheHandlerIsCalled) {
+  struct Seen {
+    Names changed{"before", "a name that is too long for a small string"};
+    std::vector<Names> calls;
+    static int Look(void* self, void* reason) {
+      EXPECT_EQ(reason, reinterpret_cast<void*>(std::intptr_t{4}));
+      static_cast<Seen*>(self)->calls.push_back(static_cast<Seen*>(self)->changed);
+      return 0;
+    }
+  } seen;
+  tree.SetOnDirtyHandler(Seen::Look, &seen, &seen.changed);
+  tree.NotifyNode(seen.changed[1], OpenTree::NodeExpanded);
+  EXPECT_EQ(seen.calls, std::vector<Names>{{"a name that is too long for a small string"}});
+  tree.SetOnDirtyHandler(Seen::Look, &seen, nullptr);
+  tree.NotifyNode("n", OpenTree::NodeExpanded);
+  EXPECT_EQ(seen.calls.size(), 2u) << "without a list, too";
+  tree.SetOnDirtyHandler(nullptr, nullptr, &seen.changed);
+  tree.NotifyNode("n", OpenTree::NodeExpanded);
+  EXPECT_EQ(seen.changed.size(), 1u) << "without a handler the list is nobody's";
+}
+
 }  // namespace
 }  // namespace oxecad_ui

@@ -22,6 +22,8 @@ using test_support::Retrieving;
 class OpenTree : public Tree {
  public:
   using Tree::BinarySearchNodeLocation;
+  using Tree::NodeExpanded;
+  using Tree::NotifyNode;
   using Tree::SortChildrenByType;
   using Tree::Tree;
 };
