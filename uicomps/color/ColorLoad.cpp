@@ -1,4 +1,5 @@
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -66,7 +67,8 @@ class ColorLoad {
     const auto found = m_types.find(color);
     if (found != m_types.end()) return found->second;
     const char* const type = m_tree.GetType(color);
-    if (type != ColorTree::s_mixType) m_types.emplace(color, type);
+    // Texts, not addresses: a constant may have one in each file.
+    if (std::string_view(type) != ColorTree::s_mixType) m_types.emplace(color, type);
     return type;
   }
 
