@@ -30,7 +30,8 @@ Widget* Suite::Find(std::string_view device, std::string_view component) const {
 Widget* Suite::FindAgain(const char* device, const char* component) {
   if (!device || !component) return nullptr;
   State& state = *state_;
-  if (state.found && detail::AreEqual(component, state.found->Name()) && detail::AreEqual(device, state.found_device->Name())) {
+  if (state.found && detail::AreEqual(component, state.found->Name()) &&
+      detail::AreEqual(device, state.found_device->Name())) {
     return state.found;
   }
   Device* holder = FindDevice(device);

@@ -26,15 +26,21 @@ std::uint32_t ChildLists::Count(NodeId parent) const {
 }
 
 NodeId ChildLists::At(NodeId parent, std::uint32_t row) const {
+  const Run run = RunFrom(parent, row);
+  return run.Size() != 0 ? *run.begin : kNoNode;
+}
+
+ChildLists::Run ChildLists::RunFrom(NodeId parent, std::uint32_t row) const {
   Handle handle = nodes_[parent].children;
-  if (handle == BlockArena::kNone || row >= SizeOf(handle)) return kNoNode;
+  if (handle == BlockArena::kNone || row >= SizeOf(handle)) return {};
   while (!IsLeaf(handle)) {
     const Inner& inner = *InnerAt(handle);
     unsigned place = 0;
     while (row >= inner.sizes[place]) row -= inner.sizes[place++];
     handle = inner.below[place];
   }
-  return LeafAt(handle)->ids[row];
+  const Leaf& leaf = *LeafAt(handle);
+  return {leaf.ids + row, leaf.ids + leaf.count};
 }
 
 std::uint32_t ChildLists::RowOf(NodeId node) const {

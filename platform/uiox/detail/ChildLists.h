@@ -28,6 +28,14 @@ class ChildLists {
   std::uint32_t Count(NodeId parent) const;
   /// `kNoNode` past the end.
   NodeId At(NodeId parent, std::uint32_t row) const;
+  /// Children beside each other in memory.
+  struct Run {
+    const NodeId* begin = nullptr;
+    const NodeId* end = nullptr;
+    std::uint32_t Size() const { return static_cast<std::uint32_t>(end - begin); }
+  };
+  /// The run that starts with a row, empty past the end. Good until a list changes.
+  Run RunFrom(NodeId parent, std::uint32_t row) const;
   std::uint32_t RowOf(NodeId node) const;
   /// Whether the node is its parent's last child.
   bool IsLast(NodeId node) const;

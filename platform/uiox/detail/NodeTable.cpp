@@ -39,6 +39,7 @@ NodeId NodeTable::Make(const NewNode& node) {
 
 void NodeTable::Place(NodeId node, NodeId parent, NodeId before) noexcept {
   children_.Insert(node, parent, before);
+  guess_.ListsChanged();
   index_.Insert(detail::Hash(std::string_view(Name(node))), node);
   ChildrenChanged(parent);
 }
@@ -54,6 +55,7 @@ std::vector<NodeId> NodeTable::Subtree(NodeId node) const {
 void NodeTable::Remove(const std::vector<NodeId>& subtree) noexcept {
   const NodeId parent = nodes_[subtree.front()].parent;
   children_.Remove(subtree.front());
+  guess_.ListsChanged();
   ChildrenChanged(parent);
   for (const NodeId node : subtree) {
     index_.Erase(detail::Hash(std::string_view(Name(node))), node);
@@ -79,6 +81,7 @@ void NodeTable::Free(NodeId node) noexcept {
 }
 
 void NodeTable::Clear() noexcept {
+  guess_.ListsChanged();
   std::fill(std::begin(marks_), std::end(marks_), kNoNode);
   selection_.Clear();
   cells_.Clear();
@@ -93,6 +96,7 @@ void NodeTable::Move(NodeId node, NodeId parent, NodeId before) noexcept {
   const NodeId former = nodes_[node].parent;
   children_.Remove(node);
   children_.Insert(node, parent, before);
+  guess_.ListsChanged();
   ChildrenChanged(former);
   ChildrenChanged(parent);
 }
@@ -229,6 +233,7 @@ void NodeTable::Select(const std::vector<NodeId>& nodes) {
 const char* const* NodeTable::LentChildren(NodeId node) {
   const std::uint32_t count = children_.Count(node);
   if (count == 0) return nullptr;
+  ChildrenListed(node);
   LentAnswers::Answers& answers = lent_.Of(node);
   if (!answers.children) {
     answers.children = std::make_unique<const char*[]>(count);

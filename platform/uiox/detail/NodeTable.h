@@ -10,6 +10,7 @@
 #include <uiox/detail/Hash.h>
 #include <uiox/detail/IdIndex.h>
 #include <uiox/detail/LentAnswers.h>
+#include <uiox/detail/NodeGuess.h>
 #include <uiox/detail/NodeRecords.h>
 #include <uiox/detail/SelectionList.h>
 #include <uiox/detail/ShortText.h>
@@ -39,20 +40,17 @@ class NodeTable {
         index_.Find(detail::Hash(name), [&](NodeId node) { return IsName(blocks_.As<char>(nodes_[node].name), name); });
     return found == kTop ? kNoNode : found;
   }
-  /// The same for a name that ends with a 0. Calls that follow each other mostly name the same node, or go through
-  /// siblings in the order in which they were made.
+  /// The same for a name that ends with a 0, where the calls before may tell which node it is.
   NodeId FindAgain(const char* name) const {
-    for (const NodeId likely : {last_found_, last_found_ + 1}) {
-      if (nodes_.Has(likely) && detail::AreEqual(Name(likely), name)) return last_found_ = likely;
-    }
-    const NodeId found = index_.Find(detail::Hash(std::string_view(name)), [&](NodeId node) {
-      // The label is read next, mostly, and lies elsewhere.
-      const detail::NodeRecord& record = nodes_[node];
-      if (record.label != detail::BlockArena::kNone) __builtin_prefetch(blocks_.As<char>(record.label));
-      return detail::AreEqual(blocks_.As<char>(record.name), name);
-    });
-    return found == kTop ? kNoNode : last_found_ = found;
+    NodeId node = guess_.Next();
+    if (!nodes_.Has(node) || !detail::AreEqual(Name(node), name)) node = Search(name);
+    if (node == kTop) return kNoNode;
+    guess_.Found(node);
+    return node;
   }
+
+  /// The names of a node's children were handed out, and are likely to come back one after the other.
+  void ChildrenListed(NodeId parent) const { guess_.ChildrenListed(parent); }
 
   std::size_t Size() const { return index_.Size(); }
   bool Has(NodeId node) const { return nodes_.Has(node); }
@@ -120,6 +118,15 @@ class NodeTable {
     detail::BlockArena::Handle second_text = detail::BlockArena::kNone;
   };
 
+  /// `kTop` for no node.
+  NodeId Search(const char* name) const {
+    return index_.Find(detail::Hash(std::string_view(name)), [&](NodeId node) {
+      // The label is read next, mostly, and lies elsewhere.
+      const detail::NodeRecord& record = nodes_[node];
+      if (record.label != detail::BlockArena::kNone) __builtin_prefetch(blocks_.As<char>(record.label));
+      return detail::AreEqual(blocks_.As<char>(record.name), name);
+    });
+  }
   static bool IsName(const char* stored, std::string_view name) { return std::string_view(stored) == name; }
   const void* TextBlock(detail::BlockArena::Handle handle) const {
     return handle == detail::BlockArena::kNone ? nullptr : blocks_.At(handle);
@@ -146,7 +153,7 @@ class NodeTable {
   std::unique_ptr<const char*[]> lent_selection_;
   std::uint64_t lent_selection_version_ = 0;
   NodeId marks_[kMarks] = {kNoNode, kNoNode, kNoNode, kNoNode};
-  mutable NodeId last_found_ = kTop;
+  mutable detail::NodeGuess guess_{children_};
 };
 
 }  // namespace uiox

@@ -5,13 +5,14 @@
 
 namespace uiox::detail {
 
-/// The same as std::strcmp() == 0. Names of devices, components and nodes are short, and most differ in their first
-/// characters: a call costs more than the loop.
+/// The same as std::strcmp() == 0. Names of devices, components and nodes are short: a call costs more than the loop.
 inline bool AreEqual(const char* a, const char* b) {
-  for (; *a == *b; ++a, ++b) {
-    if (*a == 0) return true;
+  for (;; a += 4, b += 4) {
+    for (int i = 0; i < 4; ++i) {  // unrolled
+      if (a[i] != b[i]) return false;
+      if (a[i] == 0) return true;
+    }
   }
-  return false;
 }
 
 }  // namespace uiox::detail

@@ -59,6 +59,7 @@ void* CopyChildren(const NodeTable& table, NodeId node) {
     *place++ = characters;
     characters = stpcpy(characters, table.Name(child)) + 1;
   });
+  table.ChildrenListed(node);
   return pointers;
 }
 
