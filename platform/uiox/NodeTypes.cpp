@@ -22,12 +22,22 @@ struct NodeType {
 }  // namespace
 
 struct NodeTypes::Entries {
-  std::deque<NodeType> types;  // by id; a deque, so that names stay where they are
-  detail::IdIndex index;       // of id + 1
-  TypeId last = 0;
+  std::deque<NodeType> types;      // by id; a deque, so that names stay where they are
+  detail::IdIndex index;           // of id + 1
+  const NodeType* last = nullptr;  // the one that was found last
+  TypeId last_id = 0;
 
-  TypeId Find(std::string_view name) const {
-    return index.Find(detail::Hash(name), [&](detail::IdIndex::Id id) { return types[id - 1].name == name; });
+  /// Whether there is a type of that name; then it is the last one found. Calls mostly name the same type.
+  bool Find(std::string_view name) {
+    if (last && last->name == name) return true;
+    const detail::IdIndex::Id known =
+        index.Find(detail::Hash(name), [&](detail::IdIndex::Id id) { return types[id - 1].name == name; });
+    if (known != 0) Remember(known - 1);
+    return known != 0;
+  }
+  void Remember(TypeId id) {
+    last = &types[id];
+    last_id = id;
   }
 };
 
@@ -40,24 +50,20 @@ NodeTypes::~NodeTypes() = default;
 
 TypeId NodeTypes::Intern(std::string_view name) {
   Entries& entries = *entries_;
-  // Nodes of one type mostly follow each other.
-  if (entries.last < entries.types.size() && entries.types[entries.last].name == name) return entries.last;
-  if (const detail::IdIndex::Id known = entries.Find(name)) return entries.last = known - 1;
+  if (entries.Find(name)) return entries.last_id;
   if (entries.types.size() == kMostTypes) throw std::bad_alloc();
   entries.index.Reserve();
   entries.types.push_back({std::string(name), {}, {}, false});
   entries.index.Insert(detail::Hash(name), static_cast<detail::IdIndex::Id>(entries.types.size()));
-  return entries.last = static_cast<TypeId>(entries.types.size() - 1);
+  entries.Remember(static_cast<TypeId>(entries.types.size() - 1));
+  return entries.last_id;
 }
 
 const char* NodeTypes::Name(TypeId type) const { return entries_->types[type].name.c_str(); }
 
 bool NodeTypes::IsDefined(TypeId type) const { return entries_->types[type].defined; }
 
-bool NodeTypes::IsDefined(std::string_view name) const {
-  const detail::IdIndex::Id known = entries_->Find(name);
-  return known != 0 && IsDefined(known - 1);
-}
+bool NodeTypes::IsDefined(std::string_view name) const { return entries_->Find(name) && entries_->last->defined; }
 
 bool NodeTypes::Define(std::string_view name, std::string_view image, std::string_view expanded_image) {
   if (name.empty()) return false;
