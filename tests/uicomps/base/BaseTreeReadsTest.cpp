@@ -177,6 +177,7 @@ TEST_F(BaseTreeReads, DoesNotExistComparesNamesExactly) {
   EXPECT_TRUE(tree.DoesNotExist("root", "A"));
   EXPECT_TRUE(tree.DoesNotExist("root", "b"));
   EXPECT_TRUE(tree.DoesNotExist("root", ""));
+  EXPECT_TRUE(tree.DoesNotExist("root", nullptr)) << "not even where a name is null";
   EXPECT_TRUE(tree.DoesNotExist("leaf", "a"));
   EXPECT_TRUE(toolkit.Took(R"(
     do dev:tree 2203 InquireNode "root" | 284->["a" null "b1"] | 0

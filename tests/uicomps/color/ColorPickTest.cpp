@@ -1,5 +1,7 @@
 #include <tests/uicomps/color/ColorTreeWire.h>
 
+#include <memory>
+
 namespace color_tests {
 namespace {
 
@@ -142,6 +144,26 @@ TEST_F(ColorPickForSeveral, AsksWithTheirCommonColor) {
     do dev:tree 2203 InquireNode "b" | 260->0x5 | 0
     do dev:tree 2203 InquireNode "c" | 260->0x5 | 0
   )"));
+}
+
+TEST_F(ColorPickForSeveral, AsksForNoneToo) {
+  ListenToChanges();
+  changed = {"before"};
+  oxcore::QueueColorAnswer(7);
+  tree.ChangeNodeColor(Names{});
+  EXPECT_EQ(TheRequest().initialColor, kNone);
+  EXPECT_TRUE(toolkit.Took(""));
+  EXPECT_EQ(spy.TakeReasons(), Reasons{1});
+  EXPECT_EQ(changed, Names{});
+}
+
+TEST_F(ColorPick, LetsAnotherTreeEndMeanwhile) {
+  Node("n", "root", {}, 5);
+  auto other = std::make_unique<ColorTree>("dev", "other");
+  oxcore::SetColorPicker([&](const oxcore::ColorPickerRequest&) { return other.reset(), 7u; });
+  WriteChangesOnly();
+  Ask("n");
+  EXPECT_TRUE(toolkit.Took(R"(do dev:tree 2033 ChangeNode "n" | 8="color_square.png_7" 1024=0x7 | 0)"));
 }
 
 TEST_F(ColorPickForSeveral, ReadsAllColorsAlsoAfterADifference) {

@@ -224,6 +224,15 @@ TEST_F(InputEvents, TheTestMayEndTheWatchWhileItIsAsked) {
   }
 }
 
+TEST_F(InputEvents, TheTestMayEndTheWatchAndAcceptTheText) {
+  script->when_asked = [this] { verifier.RemoveControl("width"); };
+  toolkit.TakeLines();
+  toolkit.WriteOnly([](const uiox::Call& call) { return call.function == uiox::Function::Modify; });
+  toolkit.Fire("width", kInput);
+  EXPECT_FALSE(verifier.GetInputTest("width"));
+  EXPECT_TRUE(toolkit.Took("")) << "the text stays";
+}
+
 TEST_F(InputEvents, TheTestMayLoseItsLastReferenceWhileItIsAsked) {
   for (const int reason : {kInput, kFocusOut}) {
     bool ended = false;

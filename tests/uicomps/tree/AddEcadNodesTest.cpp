@@ -184,6 +184,23 @@ TEST_F(AddEcadNodes, WithoutReadableRecordsTheyStandInTheOrderInWhichTheyCame) {
   EXPECT_EQ(Drawn(tree, kNothingMore), "root\n  b\n  a\n  c");
 }
 
+/// One of its records cannot be read into a plain one.
+class PartlyUnreadableTree : public Tree {
+ public:
+  using Tree::GetNodeInfo;
+  using Tree::Tree;
+  bool GetNodeInfo(const char* node, NodeInfo& info) const override {
+    return std::string(node) != "g" && Tree::GetNodeInfo(node, info);
+  }
+};
+
+TEST_F(AddEcadNodes, AmongSiblingsThatCannotBeReadASearchDecidesAsOneByOne) {
+  PartlyUnreadableTree partly("dev", "tree");
+  AddByItself(partly, Net("g", L"g"));
+  partly.AddEcadNodes({Net("pin", L"pin", "g"), Net("a", L"a")}, Tree::ByLabel);
+  EXPECT_EQ(Drawn(tree, kNothingMore), "root\n  g\n    pin\n  a") << "who cannot be placed stands at the end";
+}
+
 /// Sorts by something else than what the nodes show.
 class BackwardTree : public Tree {
  public:

@@ -116,6 +116,8 @@ INSTANTIATE_TEST_SUITE_P(
         OrderRow{"other_digits_are_characters", L"\u0665", L"\u06611", 1, 1},
         OrderRow{"nothing_counts_behind_the_end", WithEnd(L"a", L"b"), WithEnd(L"a", L"c"), 0, 0},
         OrderRow{"numbers_end_at_the_end", WithEnd(L"1", L"9"), L"1", 0, 0},
+        OrderRow{"end_before_what_looks_like_it_in_16_bits", L"a", L"a" + Unit(0x10000), -1, -1},
+        OrderRow{"equal_in_16_bits", L"Cb", Unit(0x10043) + L"b", 0, 0},
         OrderRow{"end_before_a_character", WithEnd(L"a", L"z"), L"a!", -1, -1}),
     FactOf);
 
