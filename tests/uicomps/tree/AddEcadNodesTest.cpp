@@ -144,6 +144,57 @@ TEST_F(AddEcadNodes, ReadsEachRememberedSiblingOnceAmongMany) {
   EXPECT_LE(toolkit.TakeLines().size(), 41u + 10u) << "one state is read for each record, and the first is searched";
 }
 
+/// "R10", "R11" and so on, as names and labels.
+struct Numbered {
+  explicit Numbered(int count) {
+    for (int i = 0; i < count; ++i) {
+      names.push_back("r" + std::to_string(10 + i));
+      labels.push_back(L"R" + std::to_wstring(10 + i));
+    }
+  }
+  EcadNode Node(std::size_t i, const char* parent) const { return Net(names[i].c_str(), labels[i].c_str(), parent); }
+  std::vector<std::string> names;
+  std::vector<std::wstring> labels;
+};
+
+TEST_F(AddEcadNodes, OneAmongManySiblingsFindsItsPlaceBesideALargeGroup) {
+  Plant(tree, "root\n  p\n  q");
+  const Numbered many(40);
+  for (std::size_t i = 0; i < 40; ++i) AddByItself(tree, many.Node(i, "p"));
+  const Numbered fresh(10);
+  std::vector<std::string> names;
+  for (const std::string& name : fresh.names) names.push_back("q" + name);
+  std::vector<EcadNode> nodes;
+  for (std::size_t i = 0; i < 10; ++i) nodes.push_back(Net(names[i].c_str(), fresh.labels[i].c_str(), "q"));
+  nodes.push_back(Net("new", L"R15b", "p"));
+  tree.AddEcadNodes(nodes, Tree::ByLabel);
+  Names children;
+  tree.GetChildren("p", children);
+  ASSERT_EQ(children.size(), 41u);
+  EXPECT_EQ(children[5], "r15");
+  EXPECT_EQ(children[6], "new");
+}
+
+TEST_F(AddEcadNodes, ASiblingOfManyThatComesAgainElsewhereIsThereWhenTheNextIsPlaced) {
+  OpenTree one("dev", "one");
+  OpenTree many("dev", "many");
+  const Numbered siblings(60);
+  const std::vector<EcadNode> nodes = {Net("x", L"R20b", "p"), Net("a", L"z", "q"), Net("b", L"b", "p")};
+  std::vector<bool> expected;
+  for (OpenTree* const each : {&one, &many}) {
+    Plant(*each, "root\n  p\n  q");
+    AddByItself(*each, Net("a", L"a", "p"));
+    for (std::size_t i = 0; i < 60; ++i) AddByItself(*each, siblings.Node(i, "p"));
+    each->DeleteNode("a");
+    if (each == &one) {
+      for (const EcadNode& node : nodes) expected.push_back(AddByItself(one, node));
+    } else {
+      EXPECT_EQ(many.AddEcadNodes(nodes, Tree::ByLabel), expected);
+    }
+  }
+  EXPECT_EQ(Drawn(many, kNothingMore), Drawn(one, kNothingMore).text);
+}
+
 TEST_F(AddEcadNodes, AnUnsupportedOrderAddsAtTheEnd) {
   testing::internal::CaptureStdout();
   EXPECT_EQ(
