@@ -110,8 +110,10 @@ Image Discs(int side, unsigned parts) {
       int green = 0;
       int blue = 0;
       for (int i = 0; i < kGrid * kGrid; ++i) {
-        const double at_x = (x + (i % kGrid + 0.5) / kGrid) / side;
-        const double at_y = (y + (i / kGrid + 0.5) / kGrid) / side;
+        const int column = i % kGrid;
+        const int row = i / kGrid;
+        const double at_x = (x + (column + 0.5) / kGrid) / side;
+        const double at_y = (y + (row + 0.5) / kGrid) / side;
         const Color* color = ColorAt(at_x, at_y, parts);
         if (!color) continue;
         ++hits;

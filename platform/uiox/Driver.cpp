@@ -35,6 +35,7 @@ bool Driver::Select(std::string_view tree, const std::vector<std::string>& nodes
   TreeWidget* found = Names(device_).Tree(tree);
   if (!found) return false;
   std::vector<NodeId> ids;
+  ids.reserve(nodes.size());
   for (const std::string& node : nodes) ids.push_back(found->Store().Find(node));
   const NodeId now = current.empty() ? kNoNode : found->Store().Find(current);
   return (current.empty() || now != kNoNode) && user::Select(*found, ids, kind, now);
