@@ -166,5 +166,11 @@ TEST(DerivedComparator, WorksInsideTheComparatorOfRecords) {
   EXPECT_TRUE(comparator.Compare(upper, lower));
 }
 
+TEST(DerivedComparator, MayCallItsHookWhichDoesNothing) {
+  CAlphaNumericWStringComparator order;
+  order.Hook();
+  EXPECT_TRUE(order.Compare(L"R9", L"R10"));
+}
+
 }  // namespace
 }  // namespace oxecad_ui

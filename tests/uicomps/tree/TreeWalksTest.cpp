@@ -240,5 +240,13 @@ TEST_F(TreeWalks, ARootWithoutARecordIsNoWalk) {
   EXPECT_EQ(NamesOf(info), Names{});
 }
 
+TEST(TreeFilters, CopiesTakeTheSame) {
+  const Tree::CheckedOnly original;
+  Tree::CheckedOnly copy(original);
+  copy = original;
+  EXPECT_EQ(copy(Record("n", L"", Tree::Checked)), Tree::NodeFilter::Accept);
+  EXPECT_EQ(copy(Record("n", L"", Tree::PartlyChecked)), Tree::NodeFilter::SkipNode);
+}
+
 }  // namespace
 }  // namespace oxecad_ui
