@@ -247,9 +247,16 @@ class PartlyUnreadableTree : public Tree {
 
 TEST_F(AddEcadNodes, AmongSiblingsThatCannotBeReadASearchDecidesAsOneByOne) {
   PartlyUnreadableTree partly("dev", "tree");
-  AddByItself(partly, Net("g", L"g"));
+  for (const char* const name : {"b", "g", "x"}) AddByItself(partly, Net(name, name[0] == 'b' ? L"b" : L"x"));
   partly.AddEcadNodes({Net("pin", L"pin", "g"), Net("a", L"a")}, Tree::ByLabel);
-  EXPECT_EQ(Drawn(tree, kNothingMore), "root\n  g\n    pin\n  a") << "who cannot be placed stands at the end";
+  EXPECT_EQ(Drawn(tree, kNothingMore), R"(
+    root
+      b
+      g "x"
+        pin
+      x
+      a)")
+      << "who cannot be placed stands at the end";
 }
 
 /// Sorts by something else than what the nodes show.
