@@ -44,7 +44,7 @@ bool ParseClassName(std::string_view name, WidgetClass& widget_class) {
 }
 
 Widget::Widget(Device& device, WidgetClass widget_class, std::string name)
-    : device_(device), name_(std::move(name)), class_(widget_class) {}
+    : device_(device), class_(widget_class), name_(std::move(name)) {}
 
 Widget::~Widget() = default;
 

@@ -196,15 +196,16 @@ class OXECAD_UIOX_API Widget {
   void Changed(WidgetChange change);
 
   Device& device_;
-  std::string name_;
-  Widget* parent_ = nullptr;
-  TreeWidget* control_of_ = nullptr;
-  ControlId control_ = kNoControl;
+  // What calls about a cell control look at lies in its first bytes.
   WidgetClass class_;
   std::uint8_t check_state_ = 0;
   bool shown_ = true;
   bool sensitive_ = true;
   bool redraw_ = true;
+  ControlId control_ = kNoControl;
+  TreeWidget* control_of_ = nullptr;
+  Widget* parent_ = nullptr;
+  std::string name_;
   ActionTable actions_;
   Rect geometry_;
   std::unique_ptr<Details> details_;  // what few components have

@@ -4,11 +4,6 @@
 
 namespace uiox::detail {
 
-const CellTable::Cell* CellTable::Find(CellPlace place) const {
-  const BlockArena::Handle cells = nodes_[place.node].cells;
-  return cells == BlockArena::kNone ? nullptr : blocks_.As<Cell>(cells) + place.column;
-}
-
 CellTable::Cell& CellTable::Need(CellPlace place) {
   BlockArena::Handle& cells = nodes_[place.node].cells;
   if (cells == BlockArena::kNone) {
@@ -32,11 +27,6 @@ bool CellTable::SetLabel(CellPlace place, std::wstring_view label) {
   cell.label = texts_.Use(label);
   texts_.Release(before);
   return true;
-}
-
-ControlId CellTable::Control(CellPlace place) const {
-  const Cell* cell = Find(place);
-  return cell ? cell->control : kNoControl;
 }
 
 void CellTable::Prepare(CellPlace place, ControlId control) {

@@ -24,7 +24,10 @@ class CellTable {
   const wchar_t* Label(CellPlace place) const;
   /// False when the cell has that label already. Throws std::bad_alloc.
   bool SetLabel(CellPlace place, std::wstring_view label);
-  ControlId Control(CellPlace place) const;
+  ControlId Control(CellPlace place) const {
+    const Cell* cell = Find(place);
+    return cell ? cell->control : kNoControl;
+  }
   CellPlace PlaceOf(ControlId control) const { return control < places_.size() ? places_[control] : CellPlace{}; }
   /// Before a `Put`. Throws std::bad_alloc.
   void Prepare(CellPlace place, ControlId control);
@@ -42,7 +45,10 @@ class CellTable {
     WideTexts::Id label;
     ControlId control;
   };
-  const Cell* Find(CellPlace place) const;
+  const Cell* Find(CellPlace place) const {
+    const BlockArena::Handle cells = nodes_[place.node].cells;
+    return cells == BlockArena::kNone ? nullptr : blocks_.As<Cell>(cells) + place.column;
+  }
   Cell& Need(CellPlace place);
 
   NodeRecords& nodes_;

@@ -14,7 +14,7 @@ namespace uiox::detail {
 
 /// Calls that follow each other name the same node again, or the next one of the children whose names were just handed
 /// out, or another one, and mostly in a rhythm: a walk over children reads two values of each, a search the five parts
-/// of each record. What came after the last four steps when they were taken before is likely to come again. A guess
+/// of each record. What came after the last six steps when they were taken before is likely to come again. A guess
 /// that is wrong costs a comparison of two names, a right one saves the search for the name.
 class NodeGuess {
  public:
@@ -28,7 +28,7 @@ class NodeGuess {
     const Step step = node == likely_[kSame] ? kSame : node == likely_[kNextChild] ? kNextChild : kElsewhere;
     // At the end of a list there was no guess, and nothing to learn.
     if (Next() != kTop || step != kElsewhere) after_[past_] = step;
-    past_ = static_cast<std::uint8_t>(past_ << kStepBits | step);
+    past_ = (past_ << kStepBits | step) % after_.size();
     likely_[kSame] = node;
     if (step == kNextChild) ToNextChild();
   }
@@ -48,6 +48,7 @@ class NodeGuess {
  private:
   enum Step : std::uint8_t { kElsewhere, kSame, kNextChild };
   static constexpr unsigned kStepBits = 2;
+  static constexpr unsigned kSteps = 6;
 
   void LookAt(std::uint32_t row) {
     row_ = row;
@@ -61,9 +62,9 @@ class NodeGuess {
   }
 
   const ChildLists& lists_;
-  std::array<Step, 256> after_{};                                // by the last four steps
-  std::array<NodeId, kNextChild + 1> likely_{kTop, kTop, kTop};  // by step
-  std::uint8_t past_ = 0;
+  std::array<Step, std::size_t{1} << kStepBits * kSteps> after_{};  // by the last steps
+  std::array<NodeId, kNextChild + 1> likely_{kTop, kTop, kTop};     // by step
+  std::size_t past_ = 0;
   NodeId parent_ = kTop;
   ChildLists::Run run_;  // of its children, from the next one on
   std::uint32_t row_ = 0;

@@ -1,3 +1,4 @@
+#include <uiox/detail/NodeTable.h>
 #include <uiox/detail/wire/Handlers.h>
 
 namespace uiox::wire {
@@ -20,6 +21,14 @@ Status FindCellControl(const TreeWidget& tree, const Call& call, Widget*& contro
   if (const Status status = FindCell(tree, call, cell)) return status;
   control = tree.ControlIn(cell);
   return control ? kOk : kNoCell;
+}
+
+/// A row is mostly set from left to right, and the control in its next cell lies elsewhere in memory.
+void FetchNextControl(const TreeWidget& tree, CellPlace cell) {
+  const detail::CellTable& cells = tree.Store().Table().Cells();
+  if (++cell.column == cells.Columns()) return;
+  const ControlId control = cells.Control(cell);
+  if (control != kNoControl) __builtin_prefetch(tree.FindControl(control));
 }
 
 /// The control that a slot names; `kNoControl` for null and the empty name. False when it is none of the tree's.
@@ -135,6 +144,7 @@ Status DestroyControl(TreeWidget& tree, const Call& call) {
 Status SetCell(TreeWidget& tree, const Call& call) {
   CellPlace cell;
   if (const Status status = FindCell(tree, call, cell)) return status;
+  FetchNextControl(tree, cell);
   ControlId control = kNoControl;
   for (const Option& option : call) {
     const bool names_control = option.code == static_cast<int>(CellAttribute::Control);
