@@ -27,7 +27,7 @@ std::uint32_t ChildLists::Count(NodeId parent) const {
 
 NodeId ChildLists::At(NodeId parent, std::uint32_t row) const {
   const Run run = RunFrom(parent, row);
-  return run.Size() != 0 ? *run.begin : kNoNode;
+  return run.begin != run.end ? *run.begin : kNoNode;
 }
 
 ChildLists::Run ChildLists::RunFrom(NodeId parent, std::uint32_t row) const {
