@@ -1,4 +1,5 @@
 #include <oxk/FileOperations.h>
+#include <oxk/detail/FileTransfer.h>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -56,5 +57,23 @@ int FileOperations::RenameToNew(const std::string& from, const std::string& to) 
 int FileOperations::Remove(const std::string& path) { return ::unlink(path.c_str()); }
 
 int FileOperations::MakeFolder(const std::string& path) { return ::mkdir(path.c_str(), S_IRWXU); }
+
+bool MoveAside(FileOperations& operations, const std::string& path, std::string& outcome) {
+  constexpr int kMostFiles = 1000;
+  outcome.clear();
+  int error = 0;
+  for (int number = 1; number <= kMostFiles; ++number) {
+    const std::string aside = path + ".damaged-" + std::to_string(number);
+    if (operations.RenameToNew(path, aside) == 0) {
+      outcome = "kept as " + aside;
+      return true;
+    }
+    error = errno;
+    if (error == ENOENT) return true;  // gone by now: nothing can be lost
+    if (error != EEXIST) break;
+  }
+  outcome = "cannot be kept under another name: " + ErrorText(error);
+  return false;
+}
 
 }  // namespace oxk

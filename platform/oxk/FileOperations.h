@@ -48,6 +48,11 @@ class OXECAD_PLATFORM_EXPORT FileOperations {
   virtual int MakeFolder(const std::string& path);
 };
 
+/// Moves a file that cannot be used out of the way, to its name with ".damaged-1" behind, or the next number that is
+/// free. False where it stays. `outcome` says what became of it: "kept as " and where, or "cannot be kept under another
+/// name: " and why in English; it is empty where the file was gone already.
+OXECAD_PLATFORM_EXPORT bool MoveAside(FileOperations& operations, const std::string& path, std::string& outcome);
+
 }  // namespace oxk
 
 #endif

@@ -7,16 +7,13 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 
-#include <cerrno>
 #include <cstdint>
-#include <system_error>
 #include <utility>
 
 namespace oxviewer {
 namespace {
 
 constexpr std::uint64_t kLargestFile = std::uint64_t{64} << 20;
-constexpr int kMostDamagedFiles = 1000;
 
 // What is wrong with a text that should hold an object.
 std::string ReasonOf(const QJsonParseError& error) {
@@ -46,17 +43,10 @@ QJsonObject KeptFile::Read() {
 }
 
 void KeptFile::PutAside(const std::string& reason) {
-  int error = 0;
-  for (int number = 1; number <= kMostDamagedFiles; ++number) {
-    const std::string aside = path_ + ".damaged-" + std::to_string(number);
-    if (operations_->RenameToNew(path_, aside) == 0) return Tell(reason + "; kept as " + aside);
-    error = errno;
-    if (error == ENOENT) return;  // gone by now: nothing can be lost
-    if (error != EEXIST) break;
-  }
-  inTheWay_ = true;
-  Tell(reason + "; cannot be kept under another name: " + std::generic_category().message(error) +
-       "; what is made of the trees is not saved");
+  std::string outcome;
+  inTheWay_ = !oxk::MoveAside(*operations_, path_, outcome);
+  if (outcome.empty()) return;
+  Tell(reason + "; " + outcome + (inTheWay_ ? "; what is made of the trees is not saved" : ""));
 }
 
 bool KeptFile::Write(const QJsonObject& content) {

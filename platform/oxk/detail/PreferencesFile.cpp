@@ -18,7 +18,6 @@ namespace {
 
 constexpr std::size_t kLargestFile = std::size_t{16} << 20;
 constexpr int kDeepestNesting = 64;  // writing an object recurses
-constexpr int kMostDamagedFiles = 1000;
 constexpr const char* kTemporarySuffix = ".tmp-";
 
 void Report(const std::string& path, const std::string& what) {
@@ -87,19 +86,10 @@ nlohmann::json PreferencesFile::Load() {
 }
 
 bool PreferencesFile::KeepDamaged(const std::string& reason) {
-  int error = 0;
-  for (int number = 1; number <= kMostDamagedFiles; ++number) {
-    const std::string kept = m_path + ".damaged-" + std::to_string(number);
-    if (m_operations->RenameToNew(m_path, kept) == 0) {
-      Report(m_path, std::string(reason).append("; kept as ").append(kept));
-      return true;
-    }
-    error = errno;
-    if (error == ENOENT) return true;  // gone by now: nothing can be lost
-    if (error != EEXIST) break;
-  }
-  Report(m_path, reason + "; cannot be kept under another name: " + ErrorText(error) + "; preferences are not saved");
-  return false;
+  std::string outcome;
+  const bool away = MoveAside(*m_operations, m_path, outcome);
+  if (!outcome.empty()) Report(m_path, reason + "; " + outcome + (away ? "" : "; preferences are not saved"));
+  return away;
 }
 
 void PreferencesFile::Save(const nlohmann::json& values) {

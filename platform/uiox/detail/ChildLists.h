@@ -32,7 +32,6 @@ class ChildLists {
   struct Run {
     const NodeId* begin = nullptr;
     const NodeId* end = nullptr;
-    std::uint32_t Size() const { return static_cast<std::uint32_t>(end - begin); }
   };
   /// The run that starts with a row, empty past the end. Good until a list changes.
   Run RunFrom(NodeId parent, std::uint32_t row) const;
