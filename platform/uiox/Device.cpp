@@ -1,4 +1,5 @@
 #include <uiox/Suite.h>
+#include <uiox/detail/FoundComponent.h>
 #include <uiox/detail/LayoutRun.h>
 #include <uiox/detail/WidgetDetails.h>
 #include <uiox/detail/WidgetIndex.h>
@@ -54,7 +55,7 @@ void Device::Remember(Widget& widget) { index_->Add(widget); }
 
 void Device::Forget(Widget& widget) noexcept {
   index_->Remove(widget);
-  suite_.ForgetFound();
+  detail::g_found_component.Forget();
 }
 
 const std::vector<Widget*>& Device::Components() const { return components_; }

@@ -3,15 +3,17 @@
 #include <uicomps/toolkit/Toolkit.h>
 #include <uiox/Backend.h>
 #include <uiox/Export.h>
+#include <uiox/detail/Watchers.h>
 #include <uiox/detail/wire/Decode.h>
+#include <uiox/detail/wire/Handlers.h>
+#include <uiox/detail/wire/QuickRead.h>
 
 #include <cstdarg>
+#include <utility>
 
 namespace uiox {
 
 namespace {
-
-Backend* g_backend = nullptr;
 
 Call ComponentCall(Function function, const char* device, const char* component, int code = 0) {
   Call call(function);
@@ -22,6 +24,18 @@ Call ComponentCall(Function function, const char* device, const char* component,
 }
 
 Call DeviceCall(Function function, const char* device) { return ComponentCall(function, device, nullptr); }
+
+[[gnu::noinline]] int OperationCall(const char* device, const char* component, int operation, va_list* slots) {
+  Call call = ComponentCall(Function::DoOperation, device, component, operation);
+  const std::size_t number = detail::IndexOf(CodeGroup::Operation).NumberOf(operation);
+  if (number == 0) {
+    call.fault = Fault::UnknownOperation;
+    call.fault_code = operation;
+  } else {
+    wire::Decoder(call, slots).ReadShape(detail::kOperationShapes[number]);
+  }
+  return Dispatch(call);
+}
 
 int AttributeCall(Function function, const char* device, const char* component, va_list* slots) {
   Call call = ComponentCall(function, device, component);
@@ -41,13 +55,12 @@ int ActionCall(Function function, const char* device, const char* component, int
 
 }  // namespace
 
-Backend* SetBackend(Backend* backend) {
-  Backend* before = g_backend;
-  g_backend = backend;
-  return before;
-}
+Backend* SetBackend(Backend* backend) { return std::exchange(detail::g_watchers.backend, backend); }
 
-int Dispatch(Call& call) { return g_backend ? g_backend->Handle(call) : BuiltIn().Handle(call); }
+int Dispatch(Call& call) {
+  Backend* const backend = detail::g_watchers.backend;
+  return backend ? backend->Handle(call) : wire::Handle(call);
+}
 
 }  // namespace uiox
 
@@ -56,20 +69,17 @@ using uiox::CodeGroup;
 using uiox::Function;
 
 OXECAD_UIOX_API int ui_do_operation(const char* device, const char* component, int operation, ...) {
-  Call call = uiox::ComponentCall(Function::DoOperation, device, component, operation);
-  const uiox::CodeInfo* row = uiox::detail::IndexOf(CodeGroup::Operation).Find(operation);
-  if (!row) {
-    call.fault = uiox::Fault::UnknownOperation;
-    call.fault_code = operation;
-    return uiox::Dispatch(call);
-  }
-  call.option_group = row->options;
   va_list slots;
+  if (uiox::wire::QuickRead::CanBe(operation)) {
+    va_start(slots, operation);
+    const uiox::wire::QuickRead read(&slots);
+    va_end(slots);
+    if (read.IsQuick()) return read.Answer(device, component);
+  }
   va_start(slots, operation);
-  const auto number = static_cast<std::size_t>(row - uiox::detail::kOperations);
-  uiox::wire::Decoder(call, &slots).ReadShape(row->shape, uiox::detail::kOperationShapes[number]);
+  const int result = uiox::OperationCall(device, component, operation, &slots);
   va_end(slots);
-  return uiox::Dispatch(call);
+  return result;
 }
 
 OXECAD_UIOX_API int ui_retrieve(const char* device, const char* component, ...) {
@@ -117,14 +127,15 @@ OXECAD_UIOX_API int ui_free(int attribute, ...) {
   va_list slots;
   va_start(slots, attribute);
   uiox::wire::Decoder decoder(call, &slots);
-  const uiox::CodeInfo* row = uiox::detail::IndexOf(CodeGroup::NodeAttribute).Find(attribute);
-  if (!row) {
+  const uiox::detail::GroupIndex& attributes = uiox::detail::IndexOf(CodeGroup::NodeAttribute);
+  const char letter = attributes.letters[attributes.NumberOf(attribute)];
+  if (letter == 0) {
     call.fault = uiox::Fault::UnknownOption;
     call.fault_code = attribute;
   } else {
     const uiox::Slot value = decoder.Next();
-    const uiox::Slot array = row->shape[0] == 'l' ? decoder.Next() : uiox::Slot{0};
-    call.options[call.option_count++] = {attribute, row->shape[0], value, array};
+    const uiox::Slot array = letter == 'l' ? decoder.Next() : uiox::Slot{0};
+    call.options[call.option_count++] = {attribute, letter, value, array};
     if (decoder.NextCode() != 0) call.fault = uiox::Fault::MissingEnd;
   }
   va_end(slots);
@@ -186,16 +197,15 @@ OXECAD_UIOX_API int ui_global_inquire(int code, ...) {
 OXECAD_UIOX_API int ui_global_do_operation(int operation, ...) {
   Call call(Function::GlobalDoOperation);
   call.code = operation;
-  const uiox::CodeInfo* row = uiox::detail::IndexOf(CodeGroup::GlobalOperation).Find(operation);
-  if (!row) {
+  const std::size_t number = uiox::detail::IndexOf(CodeGroup::GlobalOperation).NumberOf(operation);
+  if (number == 0) {
     call.fault = uiox::Fault::UnknownOperation;
     call.fault_code = operation;
     return uiox::Dispatch(call);
   }
   va_list slots;
   va_start(slots, operation);
-  const auto number = static_cast<std::size_t>(row - uiox::detail::kGlobalOperations);
-  uiox::wire::Decoder(call, &slots).ReadShape(row->shape, uiox::detail::kGlobalOperationShapes[number]);
+  uiox::wire::Decoder(call, &slots).ReadShape(uiox::detail::kGlobalOperationShapes[number]);
   va_end(slots);
   return uiox::Dispatch(call);
 }

@@ -3,6 +3,7 @@
 #include <uiox/Suite.h>
 #include <uiox/detail/LentGuard.h>
 #include <uiox/detail/StrictLedger.h>
+#include <uiox/detail/Watchers.h>
 
 #include <algorithm>
 #include <optional>
@@ -14,8 +15,6 @@ using oxecad_ui::toolkit::GlobalOperation;
 using oxecad_ui::toolkit::Operation;
 
 namespace {
-
-StrictMode* g_current = nullptr;
 
 /// A status that means failure whatever the function.
 int Refusal(Function function) { return function == Function::CreateDeviceExt ? 0 : 1; }
@@ -88,10 +87,10 @@ struct StrictMode::Books : SuiteObserver {
   }
 };
 
-StrictMode::StrictMode(Report report) : books_(std::make_shared<Books>()), before_(g_current) {
+StrictMode::StrictMode(Report report) : books_(std::make_shared<Books>()), before_(detail::g_watchers.strict) {
   books_->report = std::move(report);
   Suite::Get().AddObserver(books_.get());
-  g_current = this;
+  detail::g_watchers.strict = this;
 }
 
 StrictMode::~StrictMode() {
@@ -101,10 +100,10 @@ StrictMode::~StrictMode() {
   }
   for (const std::string& leftover : left) books_->Fault("left: " + leftover);
   Suite::Get().RemoveObserver(books_.get());
-  g_current = before_;
+  detail::g_watchers.strict = before_;
 }
 
-StrictMode* StrictMode::Current() { return g_current; }
+StrictMode* StrictMode::Current() { return detail::g_watchers.strict; }
 
 void StrictMode::Expect(std::string leftover) { books_->expected.push_back(std::move(leftover)); }
 
@@ -140,7 +139,7 @@ int StrictMode::Handle(Call& call, int (*answer)(Call&)) {
     return Refusal(call.function);
   }
   const int result = answer(call);
-  if (result != 0 || g_current != this) return result;
+  if (result != 0 || detail::g_watchers.strict != this) return result;
   books.NoteShown(call);
   if (IsOperation(call, Operation::GetNode)) books.ledger.EnterCopies(call);
   if (LoadsImage(call)) books.ledger.EnterPixels(call);

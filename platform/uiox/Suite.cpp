@@ -1,7 +1,7 @@
 #include <uiox/StrictMode.h>
+#include <uiox/detail/FoundComponent.h>
 #include <uiox/detail/LayoutRun.h>
 #include <uiox/detail/ResourceLoader.h>
-#include <uiox/detail/ShortText.h>
 #include <uiox/detail/SuiteState.h>
 
 #include <algorithm>
@@ -25,27 +25,6 @@ Device* Suite::FindDevice(std::string_view name) const { return static_cast<Devi
 Widget* Suite::Find(std::string_view device, std::string_view component) const {
   const Device* found = FindDevice(device);
   return found ? found->Find(component) : nullptr;
-}
-
-Widget* Suite::FindAgain(const char* device, const char* component) {
-  if (!device || !component) return nullptr;
-  State& state = *state_;
-  if (state.found && detail::AreEqual(component, state.found->Name()) &&
-      detail::AreEqual(device, state.found_device->Name())) {
-    return state.found;
-  }
-  Device* holder = FindDevice(device);
-  Widget* found = holder ? holder->Find(component) : nullptr;
-  if (found) {
-    state.found_device = holder;
-    state.found = found;
-  }
-  return found;
-}
-
-void Suite::ForgetFound() {
-  state_->found_device = nullptr;
-  state_->found = nullptr;
 }
 
 Device* Suite::CreateDevice(std::string_view resource, std::string_view name, std::string* why) {
@@ -105,7 +84,7 @@ bool Suite::DestroyDevice(std::string_view name) {
   }
   Tell(&SuiteObserver::AboutToDestroyDevice, *device);
   if (state_->current_device == name) SetCurrent({}, {});
-  ForgetFound();
+  detail::g_found_component.Forget();
   state_->index.Remove(*device);
   std::erase(state_->devices, device);
   std::erase_if(state_->owned, [&](const std::unique_ptr<Device>& owned) { return owned.get() == device; });

@@ -35,11 +35,6 @@ class OXECAD_UIOX_API Suite {
   Device* FindDevice(std::string_view name) const;
   /// The component (or the device itself, by its own name) of a device; null when there is none. Constant time.
   Widget* Find(std::string_view device, std::string_view component) const;
-  /// The same for names that end with a 0 (null: not found). Calls that follow each other mostly name the same
-  /// component.
-  Widget* FindAgain(const char* device, const char* component);
-  /// A component has ended: what was found is not looked at again.
-  void ForgetFound();
   /// Makes a device from a resource on the path. Null, and why, when there is no such resource, it is wrong, or the
   /// name is in use.
   Device* CreateDevice(std::string_view resource, std::string_view name, std::string* why = nullptr);

@@ -18,21 +18,21 @@ class ChildNames {
   ChildNames(const Widget& tree, const char* node) {
     const LentNames lent(tree, node, Release::WhenNotEmpty);
     std::size_t bytes = 0;
+    const char* first = nullptr;
+    bool together = true;  // toolkits mostly lend names one behind the other
     for (const char* name : lent) {
       if (name == nullptr) continue;
-      ++m_count;
+      if (m_count++ == 0) first = name;
+      together = together && name == first + bytes;
       bytes += std::strlen(name) + 1;
     }
     if (m_count == 0) return;
     m_names = std::make_unique_for_overwrite<const char*[]>(m_count + bytes / sizeof(const char*) + 1);
-    char* characters = reinterpret_cast<char*>(m_names.get() + m_count);
-    std::size_t index = 0;
-    for (const char* name : lent) {
-      if (name == nullptr) continue;
-      const std::size_t size = std::strlen(name) + 1;
-      std::memcpy(characters, name, size);
-      m_names[index++] = characters;
-      characters += size;
+    char* const characters = reinterpret_cast<char*>(m_names.get() + m_count);
+    if (together) {
+      CopyBlock(lent, first, bytes, characters);
+    } else {
+      CopyEach(lent, characters);
     }
   }
 
@@ -43,6 +43,22 @@ class ChildNames {
   const char* const* end() const { return m_names.get() + m_count; }
 
  private:
+  void CopyBlock(const LentNames& lent, const char* first, std::size_t bytes, char* characters) {
+    std::memcpy(characters, first, bytes);
+    const char** place = m_names.get();
+    for (const char* name : lent) {
+      if (name != nullptr) *place++ = characters + (name - first);
+    }
+  }
+  void CopyEach(const LentNames& lent, char* characters) {
+    const char** place = m_names.get();
+    for (const char* name : lent) {
+      if (name == nullptr) continue;
+      *place++ = characters;
+      characters = stpcpy(characters, name) + 1;
+    }
+  }
+
   std::size_t m_count = 0;
   std::unique_ptr<const char*[]> m_names;  // the pointers, and behind them the characters
 };

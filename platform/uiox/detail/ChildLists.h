@@ -77,7 +77,7 @@ class ChildLists {
     const Block* block = blocks_.As<Block>(handle);
     if (block->capacity != 0) {
       const Leaf* leaf = static_cast<const Leaf*>(block);
-      for (unsigned i = 0; i < leaf->count; ++i) Prefetch(leaf->ids[i]);
+      for (unsigned i = 0; i < leaf->count; ++i) nodes_.Prefetch(leaf->ids[i]);
       for (unsigned i = 0; i < leaf->count; ++i) visit(leaf->ids[i]);
       return;
     }
@@ -85,11 +85,6 @@ class ChildLists {
     for (unsigned i = 0; i < inner->count; ++i) VisitBlock(inner->below[i], visit);
   }
 
-  /// A record may lie in two cache lines.
-  void Prefetch(NodeId node) const {
-    __builtin_prefetch(&nodes_[node]);
-    __builtin_prefetch(&nodes_[node].user_data);
-  }
   Leaf* LeafAt(Handle handle) const { return blocks_.As<Leaf>(handle); }
   Inner* InnerAt(Handle handle) const { return blocks_.As<Inner>(handle); }
   bool IsLeaf(Handle handle) const { return blocks_.As<Block>(handle)->capacity != 0; }

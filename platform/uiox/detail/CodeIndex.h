@@ -45,39 +45,51 @@ constexpr int HighestCode(const CodeInfo (&rows)[N]) {
 struct GroupIndex {
   const CodeInfo* table;
   std::size_t count;
-  const std::uint8_t* rows;  // by the code's distance from the first one: the row plus 1, or 0
+  const std::uint8_t* numbers;  // by the code's distance from the first one: the row's number, or 0
+  const char* letters;          // by number: the first letter of the shape
   int first;
   std::size_t span;
 
-  constexpr const CodeInfo* Find(int code) const {
+  /// The number of a code's row, from 1; 0 for a code that is in no row.
+  constexpr std::size_t NumberOf(int code) const {
     const auto place = static_cast<std::size_t>(static_cast<std::int64_t>(code) - first);
-    if (place >= span || rows[place] == 0) return nullptr;
-    return table + (rows[place] - 1);
+    return place < span ? numbers[place] : 0;
+  }
+  constexpr const CodeInfo* Find(int code) const {
+    const std::size_t number = NumberOf(code);
+    return number != 0 ? table + (number - 1) : nullptr;
   }
 };
 
-/// One byte for each number between the lowest and the highest code: the row plus 1, or 0.
+/// One byte for each number between the lowest and the highest code, and one letter for each row.
 template <const auto& Rows>
 class CodeIndex {
   static constexpr int kFirst = LowestCode(Rows);
   static constexpr std::size_t kSpan = static_cast<std::size_t>(HighestCode(Rows) - kFirst + 1);
 
-  static constexpr std::array<std::uint8_t, kSpan> Build() {
+  static constexpr std::array<std::uint8_t, kSpan> Numbers() {
     static_assert(std::size(Rows) < 255);
-    std::array<std::uint8_t, kSpan> rows{};
+    std::array<std::uint8_t, kSpan> numbers{};
     std::uint8_t number = 0;
-    for (const CodeInfo& row : Rows) rows[static_cast<std::size_t>(row.code - kFirst)] = ++number;
-    return rows;
+    for (const CodeInfo& row : Rows) numbers[static_cast<std::size_t>(row.code - kFirst)] = ++number;
+    return numbers;
   }
-  static constexpr std::array<std::uint8_t, kSpan> kRows = Build();
+  static constexpr std::array<char, std::size(Rows) + 1> Letters() {
+    std::array<char, std::size(Rows) + 1> letters{};
+    std::size_t number = 0;
+    for (const CodeInfo& row : Rows) letters[++number] = row.shape[0];
+    return letters;
+  }
+  static constexpr auto kNumbers = Numbers();
+  static constexpr auto kLetters = Letters();
 
  public:
-  static constexpr GroupIndex kIndex{Rows, std::size(Rows), kRows.data(), kFirst, kSpan};
+  static constexpr GroupIndex kIndex{Rows, std::size(Rows), kNumbers.data(), kLetters.data(), kFirst, kSpan};
 };
 
 /// By `CodeGroup`.
 inline constexpr GroupIndex kGroups[] = {
-    {nullptr, 0, nullptr, 0, 0},        CodeIndex<kOperations>::kIndex,        CodeIndex<kGlobalOperations>::kIndex,
+    {nullptr, 0, nullptr, nullptr, 0, 0}, CodeIndex<kOperations>::kIndex,        CodeIndex<kGlobalOperations>::kIndex,
     CodeIndex<kNodeOptions>::kIndex,    CodeIndex<kNodeAttributes>::kIndex,    CodeIndex<kComponentAttributes>::kIndex,
     CodeIndex<kCellAttributes>::kIndex, CodeIndex<kControlAttributes>::kIndex, CodeIndex<kReasons>::kIndex,
     CodeIndex<kGlobalCodes>::kIndex,
@@ -86,26 +98,28 @@ static_assert(std::size(kGroups) == static_cast<std::size_t>(CodeGroup::GlobalCo
 
 inline const GroupIndex& IndexOf(CodeGroup group) { return kGroups[static_cast<std::size_t>(group)]; }
 
-/// How many slots a positional shape has, and what follows them.
-struct PositionalShape {
-  std::uint8_t count;
-  char ending;
+/// What a call of an operation brings: its positional slots, what follows them, and the table of its options.
+struct OperationShape {
+  const char* letters = "";
+  std::uint8_t count = 0;
+  char ending = '.';
+  CodeGroup options = CodeGroup::None;
 };
 
 template <std::size_t N>
-constexpr std::array<PositionalShape, N> PositionalShapes(const CodeInfo (&rows)[N]) {
-  std::array<PositionalShape, N> shapes{};
+constexpr std::array<OperationShape, N + 1> OperationShapes(const CodeInfo (&rows)[N]) {
+  std::array<OperationShape, N + 1> shapes{};
   for (std::size_t i = 0; i < N; ++i) {
     const char* letter = rows[i].shape;
     while (*letter >= 'A') ++letter;
-    shapes[i] = {static_cast<std::uint8_t>(letter - rows[i].shape), *letter};
+    shapes[i + 1] = {rows[i].shape, static_cast<std::uint8_t>(letter - rows[i].shape), *letter, rows[i].options};
   }
   return shapes;
 }
 
-/// Row by row.
-inline constexpr auto kOperationShapes = PositionalShapes(kOperations);
-inline constexpr auto kGlobalOperationShapes = PositionalShapes(kGlobalOperations);
+/// By the number of the row.
+inline constexpr auto kOperationShapes = OperationShapes(kOperations);
+inline constexpr auto kGlobalOperationShapes = OperationShapes(kGlobalOperations);
 
 }  // namespace uiox::detail
 

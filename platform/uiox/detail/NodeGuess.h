@@ -4,11 +4,13 @@
 #define OXECAD_UIOX_DETAIL_NODEGUESS_H
 
 #include <uiox/NodeId.h>
-#include <uiox/detail/ChildLists.h>
+#include <uiox/detail/ListedChildren.h>
+#include <uiox/detail/ShortText.h>
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 namespace uiox::detail {
 
@@ -18,56 +20,74 @@ namespace uiox::detail {
 /// that is wrong costs a comparison of two names, a right one saves the search for the name.
 class NodeGuess {
  public:
-  explicit NodeGuess(const ChildLists& lists) : lists_(lists) {}
+  explicit NodeGuess(const ListedChildren& listed) : listed_(listed) {}
 
-  /// The node that the next call may name; `kTop` where no guess is worth it. It need not be there any more.
-  NodeId Next() const { return likely_[after_[past_]]; }
+  /// The node of that name, or `kTop` where it is not the one that was expected.
+  NodeId Try(std::string_view name) { return TryStep(after_[past_], name); }
 
-  /// The node that the call named.
-  void Found(NodeId node) {
-    const Step step = node == likely_[kSame] ? kSame : node == likely_[kNextChild] ? kNextChild : kElsewhere;
+  /// The same after that, where it is another one that would not have been surprising.
+  NodeId TryOthers(std::string_view name) {
+    for (const Step step : {kSame, kNextChild}) {
+      const std::size_t past = past_;
+      const NodeId node = TryStep(step, name);
+      if (node == kTop) continue;
+      after_[past] = step;
+      return node;
+    }
+    return kTop;
+  }
+
+  /// It was none of them. The name stays where it is until the node goes.
+  void FoundElsewhere(NodeId node, std::string_view name) {
     // At the end of a list there was no guess, and nothing to learn.
-    if (Next() != kTop || step != kElsewhere) after_[past_] = step;
-    past_ = (past_ << kStepBits | step) % after_.size();
-    likely_[kSame] = node;
-    if (step == kNextChild) ToNextChild();
+    if (likely_[after_[past_]].id != kTop) after_[past_] = kElsewhere;
+    Note(kElsewhere);
+    likely_[kSame] = {node, name};
   }
 
-  /// The names of a node's children were handed out.
-  void ChildrenListed(NodeId parent) {
-    parent_ = parent;
-    LookAt(0);
-  }
+  /// The node that the last call named, or `kTop`.
+  NodeId Last() const { return likely_[kSame].id; }
+  /// Where its name stays from now on.
+  void SetLastName(std::string_view name) { likely_[kSame].name = name; }
 
-  /// Children come, go or change places, and what is remembered of their lists is void.
-  void ListsChanged() {
-    run_ = {};
-    likely_[kNextChild] = kTop;
-  }
+  /// The children were handed out.
+  void ChildrenListed() { LookAt(0); }
+  /// The list is void.
+  void ListForgotten() { likely_[kNextChild] = {}; }
+  /// Any node may have gone.
+  void NodesGone() { likely_ = {}; }
 
  private:
   enum Step : std::uint8_t { kElsewhere, kSame, kNextChild };
   static constexpr unsigned kStepBits = 2;
   static constexpr unsigned kSteps = 6;
 
-  void LookAt(std::uint32_t row) {
-    row_ = row;
-    run_ = lists_.RunFrom(parent_, row);
-    likely_[kNextChild] = run_.begin != run_.end ? *run_.begin : kTop;
+  struct Node {
+    NodeId id = kTop;
+    std::string_view name;
+  };
+
+  NodeId TryStep(Step step, std::string_view name) {
+    const Node node = likely_[step];
+    if (node.id == kTop || !AreSame(name, node.name)) return kTop;
+    Note(step);
+    if (step == kNextChild) {
+      likely_[kSame] = node;
+      LookAt(row_ + 1);
+    }
+    return node.id;
   }
-  void ToNextChild() {
-    ++row_;
-    if (++run_.begin == run_.end) return LookAt(row_);
-    likely_[kNextChild] = *run_.begin;
+  void Note(Step step) { past_ = (past_ << kStepBits | step) % after_.size(); }
+  void LookAt(std::size_t row) {
+    row_ = row;
+    likely_[kNextChild] = row < listed_.Size() ? Node{listed_.Id(row), listed_.Name(row)} : Node{};
   }
 
-  const ChildLists& lists_;
+  const ListedChildren& listed_;
   std::array<Step, std::size_t{1} << kStepBits * kSteps> after_{};  // by the last steps
-  std::array<NodeId, kNextChild + 1> likely_{kTop, kTop, kTop};     // by step
+  std::array<Node, kNextChild + 1> likely_{};                       // by step
   std::size_t past_ = 0;
-  NodeId parent_ = kTop;
-  ChildLists::Run run_;  // of its children, from the next one on
-  std::uint32_t row_ = 0;
+  std::size_t row_ = 0;  // of the next child
 };
 
 }  // namespace uiox::detail

@@ -46,6 +46,12 @@ class NodeRecords {
   NodeRecord& operator[](NodeId id) { return blocks_[id >> kBlockBits][id & (kBlockSize - 1)]; }
   const NodeRecord& operator[](NodeId id) const { return blocks_[id >> kBlockBits][id & (kBlockSize - 1)]; }
 
+  /// A record may lie in two cache lines.
+  void Prefetch(NodeId id) const {
+    __builtin_prefetch(&(*this)[id]);
+    __builtin_prefetch(&(*this)[id].user_data);
+  }
+
   bool Has(NodeId id) const { return id != kTop && id < end_ && ((*this)[id].bits & kInUse) != 0; }
   std::size_t Size() const { return size_; }
 

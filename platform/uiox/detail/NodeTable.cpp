@@ -9,6 +9,7 @@ namespace uiox {
 
 using detail::BlockArena;
 using detail::LentAnswers;
+using detail::NameBlock;
 using detail::NodeBits;
 using detail::NodeRecord;
 using detail::WideCodec;
@@ -37,10 +38,58 @@ NodeId NodeTable::Make(const NewNode& node) {
   return id;
 }
 
+NodeId NodeTable::Find(std::string_view name) const {
+  const NodeId node = index_.Find(detail::Hash(name), [&](NodeId candidate) {
+    // The label is read next, mostly, and lies elsewhere.
+    if (const void* label = Label(candidate)) __builtin_prefetch(label);
+    return detail::AreSame(NameOf(candidate), name);
+  });
+  return node == kTop ? kNoNode : node;
+}
+
+NodeId NodeTable::FindAnew(std::string_view name) const {
+  if (const NodeId node = guess_.TryOthers(name)) return node;
+  const NodeId node = Find(name);
+  if (node != kNoNode) guess_.FoundElsewhere(node, NameOf(node));
+  return node;
+}
+
+const detail::ListedChildren& NodeTable::ListChildren(NodeId parent) const {
+  const bool more = listed_.AreOf(parent);
+  if (!more || listed_.Size() < children_.Count(parent)) {
+    if (guess_.Last() != kTop) guess_.SetLastName(NameOf(guess_.Last()));  // it may stand in the list
+    guess_.ListForgotten();
+    if (!more) listed_.Begin(parent);
+    AppendListed(parent);
+  }
+  guess_.ChildrenListed();
+  return listed_;
+}
+
+/// Appends what is not in the list yet.
+void NodeTable::AppendListed(NodeId parent) const {
+  listed_.Forget();
+  for (;;) {
+    const detail::ChildLists::Run run = children_.RunFrom(parent, static_cast<std::uint32_t>(listed_.Size()));
+    if (run.begin == run.end) break;
+    // Records, and names even more, lie anywhere in memory: all of a run are on their way before the first is needed.
+    for (const NodeId* child = run.begin; child != run.end; ++child) nodes_.Prefetch(*child);
+    for (const NodeId* child = run.begin; child != run.end; ++child) __builtin_prefetch(Name(*child));
+    for (const NodeId* child = run.begin; child != run.end; ++child) listed_.Append(*child, NameOf(*child));
+  }
+  listed_.Finish();
+}
+
+void NodeTable::ForgetListed(NodeId parent) noexcept {
+  if (!listed_.AreOf(parent)) return;
+  listed_.Forget();
+  guess_.ListForgotten();
+}
+
 void NodeTable::Place(NodeId node, NodeId parent, NodeId before) noexcept {
   children_.Insert(node, parent, before);
-  guess_.ListsChanged();
-  index_.Insert(detail::Hash(std::string_view(Name(node))), node);
+  if (before != kNoNode) ForgetListed(parent);
+  index_.Insert(detail::Hash(NameOf(node)), node);
   ChildrenChanged(parent);
 }
 
@@ -55,10 +104,10 @@ std::vector<NodeId> NodeTable::Subtree(NodeId node) const {
 void NodeTable::Remove(const std::vector<NodeId>& subtree) noexcept {
   const NodeId parent = nodes_[subtree.front()].parent;
   children_.Remove(subtree.front());
-  guess_.ListsChanged();
+  NodesGone();
   ChildrenChanged(parent);
   for (const NodeId node : subtree) {
-    index_.Erase(detail::Hash(std::string_view(Name(node))), node);
+    index_.Erase(detail::Hash(NameOf(node)), node);
     Free(node);
   }
 }
@@ -72,7 +121,7 @@ void NodeTable::Free(NodeId node) noexcept {
     rare_.erase(node);
   }
   if (record.selected != 0) selection_.Remove(node);
-  if (record.name != BlockArena::kNone) blocks_.Free(record.name, std::strlen(Name(node)) + 1);
+  if (record.name != BlockArena::kNone) blocks_.Free(record.name, NameBlock::Bytes(NameOf(node)));
   std::replace(std::begin(marks_), std::end(marks_), node, kNoNode);
   FreeText(record.label);
   cells_.Drop(node);
@@ -80,8 +129,14 @@ void NodeTable::Free(NodeId node) noexcept {
   nodes_.Give(node);
 }
 
+void NodeTable::NodesGone() noexcept {
+  listed_.Forget();
+  guess_.NodesGone();
+}
+
 void NodeTable::Clear() noexcept {
-  guess_.ListsChanged();
+  NodesGone();
+  listed_.Clear();
   std::fill(std::begin(marks_), std::end(marks_), kNoNode);
   selection_.Clear();
   cells_.Clear();
@@ -96,7 +151,8 @@ void NodeTable::Move(NodeId node, NodeId parent, NodeId before) noexcept {
   const NodeId former = nodes_[node].parent;
   children_.Remove(node);
   children_.Insert(node, parent, before);
-  guess_.ListsChanged();
+  ForgetListed(former);
+  ForgetListed(parent);
   ChildrenChanged(former);
   ChildrenChanged(parent);
 }
@@ -108,10 +164,8 @@ void NodeTable::ChildrenChanged(NodeId parent) noexcept {
 // --- Texts -----------------------------------------------------------------------------------------------------------
 
 BlockArena::Handle NodeTable::NewName(std::string_view name) {
-  const BlockArena::Handle handle = blocks_.Allocate(name.size() + 1);
-  char* characters = blocks_.As<char>(handle);
-  std::copy(name.begin(), name.end(), characters);
-  characters[name.size()] = 0;
+  const BlockArena::Handle handle = blocks_.Allocate(NameBlock::Bytes(name));
+  NameBlock::Write(blocks_.At(handle), name);
   return handle;
 }
 
@@ -233,13 +287,14 @@ void NodeTable::Select(const std::vector<NodeId>& nodes) {
 const char* const* NodeTable::LentChildren(NodeId node) {
   const std::uint32_t count = children_.Count(node);
   if (count == 0) return nullptr;
-  ChildrenListed(node);
   LentAnswers::Answers& answers = lent_.Of(node);
   if (!answers.children) {
+    const detail::ListedChildren& listed = ListChildren(node);
     answers.children = std::make_unique<const char*[]>(count);
-    const char** name = answers.children.get();
-    children_.ForEach(node, [&](NodeId child) { *name++ = Name(child); });
+    for (std::size_t row = 0; row < count; ++row) answers.children[row] = Name(listed.Id(row));
     nodes_[node].bits |= detail::kHasLent;
+  } else if (listed_.AreOf(node)) {
+    guess_.ChildrenListed();
   }
   return answers.children.get();
 }
@@ -273,7 +328,7 @@ const char* const* NodeTable::LentSelection() {
 
 std::size_t NodeTable::MemoryUse() const {
   return nodes_.MemoryUse() + blocks_.MemoryUse() + index_.MemoryUse() + cells_.MemoryUse() + selection_.MemoryUse() +
-         rare_.size() * (sizeof(Rare) + 4 * sizeof(void*));
+         rare_.size() * (sizeof(Rare) + 4 * sizeof(void*)) + listed_.MemoryUse();
 }
 
 }  // namespace uiox

@@ -10,13 +10,13 @@
 #include <uiox/detail/Hash.h>
 #include <uiox/detail/IdIndex.h>
 #include <uiox/detail/LentAnswers.h>
+#include <uiox/detail/ListedChildren.h>
+#include <uiox/detail/NameBlock.h>
 #include <uiox/detail/NodeGuess.h>
 #include <uiox/detail/NodeRecords.h>
 #include <uiox/detail/SelectionList.h>
-#include <uiox/detail/ShortText.h>
 
 #include <cstddef>
-#include <cstring>
 #include <memory>
 #include <string_view>
 #include <unordered_map>
@@ -35,26 +35,21 @@ class NodeTable {
 
   // --- Names and shape -----------------------------------------------------------------------------------------------
 
-  NodeId Find(std::string_view name) const {
-    const NodeId found =
-        index_.Find(detail::Hash(name), [&](NodeId node) { return IsName(blocks_.As<char>(nodes_[node].name), name); });
-    return found == kTop ? kNoNode : found;
-  }
-  /// The same for a name that ends with a 0, where the calls before may tell which node it is.
-  NodeId FindAgain(const char* name) const {
-    NodeId node = guess_.Next();
-    if (!nodes_.Has(node) || !detail::AreEqual(Name(node), name)) node = Search(name);
-    if (node == kTop) return kNoNode;
-    guess_.Found(node);
-    return node;
+  NodeId Find(std::string_view name) const;
+  /// The same where the calls before may tell which node it is.
+  NodeId FindAgain(std::string_view name) const {
+    const NodeId node = guess_.Try(name);
+    return node != kTop ? node : FindAnew(name);
   }
 
-  /// The names of a node's children were handed out, and are likely to come back one after the other.
-  void ChildrenListed(NodeId parent) const { guess_.ChildrenListed(parent); }
+  /// The children of a node, to be handed out: their names are likely to come back one after the other. Good until the
+  /// next list or change. Throws std::bad_alloc.
+  const detail::ListedChildren& ListChildren(NodeId parent) const;
 
   std::size_t Size() const { return index_.Size(); }
   bool Has(NodeId node) const { return nodes_.Has(node); }
-  const char* Name(NodeId node) const { return blocks_.As<char>(nodes_[node].name); }
+  const char* Name(NodeId node) const { return detail::NameBlock::Characters(blocks_.At(nodes_[node].name)); }
+  std::string_view NameOf(NodeId node) const { return detail::NameBlock::Name(blocks_.At(nodes_[node].name)); }
   NodeId Parent(NodeId node) const { return nodes_[node].parent; }
   const detail::ChildLists& Children() const { return children_; }
 
@@ -118,16 +113,10 @@ class NodeTable {
     detail::BlockArena::Handle second_text = detail::BlockArena::kNone;
   };
 
-  /// `kTop` for no node.
-  NodeId Search(const char* name) const {
-    return index_.Find(detail::Hash(std::string_view(name)), [&](NodeId node) {
-      // The label is read next, mostly, and lies elsewhere.
-      const detail::NodeRecord& record = nodes_[node];
-      if (record.label != detail::BlockArena::kNone) __builtin_prefetch(blocks_.As<char>(record.label));
-      return detail::AreEqual(blocks_.As<char>(record.name), name);
-    });
-  }
-  static bool IsName(const char* stored, std::string_view name) { return std::string_view(stored) == name; }
+  NodeId FindAnew(std::string_view name) const;
+  void AppendListed(NodeId parent) const;
+  void ForgetListed(NodeId parent) noexcept;
+  void NodesGone() noexcept;
   const void* TextBlock(detail::BlockArena::Handle handle) const {
     return handle == detail::BlockArena::kNone ? nullptr : blocks_.At(handle);
   }
@@ -153,7 +142,8 @@ class NodeTable {
   std::unique_ptr<const char*[]> lent_selection_;
   std::uint64_t lent_selection_version_ = 0;
   NodeId marks_[kMarks] = {kNoNode, kNoNode, kNoNode, kNoNode};
-  mutable detail::NodeGuess guess_{children_};
+  mutable detail::ListedChildren listed_;
+  mutable detail::NodeGuess guess_{listed_};
 };
 
 }  // namespace uiox

@@ -25,8 +25,6 @@ struct Suite::State {
   std::vector<std::unique_ptr<Device>> owned;
   std::vector<Device*> devices;
   detail::WidgetIndex index;
-  Device* found_device = nullptr;
-  Widget* found = nullptr;
 
   ResourcePath resources;
   ImageBag images;

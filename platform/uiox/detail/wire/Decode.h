@@ -18,9 +18,10 @@ class Decoder {
   Decoder(Call& call, va_list* slots) : call_(call), slots_(slots) {}
 
   /// Positional slots by a shape, then what its ending says.
-  void ReadShape(const char* letters, detail::PositionalShape shape) {
-    call_.positional_shape = letters;
+  void ReadShape(const detail::OperationShape& shape) {
+    call_.positional_shape = shape.letters;
     call_.positional_count = shape.count;
+    call_.option_group = shape.options;
     for (std::size_t i = 0; i < shape.count; ++i) call_.positional[i] = Next();
     if (shape.ending == '<') return ReadOptions(false);
     if (shape.ending == '>') return ReadOptions(true);
@@ -33,23 +34,27 @@ class Decoder {
   /// The same when the first code is known already.
   void ReadOptionsFrom(int code, bool out) {
     const detail::GroupIndex& index = detail::IndexOf(call_.option_group);
+    const int upper_case = out ? 0x20 : 0;
+    std::size_t count = 0;
     for (; code != 0; code = NextCode()) {
-      const CodeInfo* row = index.Find(code);
-      if (!row) return Stop(Fault::UnknownOption, code);
-      if (call_.option_count == Call::kMaxOptions) return Stop(Fault::MissingEnd, 0);
-      Option& option = call_.options[call_.option_count++];
+      const char letter = index.letters[index.NumberOf(code)];
+      if (letter == 0) return Stop(count, Fault::UnknownOption, code);
+      if (count == Call::kMaxOptions) return Stop(count, Fault::MissingEnd, 0);
+      Option& option = call_.options[count++];
       option.code = code;
-      option.shape = out ? static_cast<char>(row->shape[0] & ~0x20) : row->shape[0];
+      option.shape = static_cast<char>(letter - upper_case);
       option.value = Next();
-      option.array = row->shape[0] == 'l' ? Next() : Slot{0};
+      option.array = letter == 'l' ? Next() : Slot{0};
     }
+    call_.option_count = static_cast<std::uint8_t>(count);
   }
 
   Slot Next() { return Slot{va_arg(*slots_, std::intptr_t)}; }
   int NextCode() { return va_arg(*slots_, int); }
 
  private:
-  void Stop(Fault fault, int code) {
+  void Stop(std::size_t options_read, Fault fault, int code) {
+    call_.option_count = static_cast<std::uint8_t>(options_read);
     call_.fault = fault;
     call_.fault_code = code;
   }

@@ -6,6 +6,7 @@
 
 #include <uiox/Call.h>
 #include <uiox/Suite.h>
+#include <uiox/detail/NodeTable.h>
 #include <uiox/detail/wire/Status.h>
 
 #include <cstring>
@@ -15,8 +16,10 @@
 
 namespace uiox::wire {
 
+/// What the built-in toolkit answers to any call.
+int Handle(Call& call);
+
 int Operate(Widget& widget, const Call& call);
-int OperateOnTree(TreeWidget& tree, const Call& call);
 
 Status MoveAndResize(Widget& widget, const Call& call);
 Status GetSize(Widget& widget, const Call& call);
@@ -45,8 +48,8 @@ Status GetCell(TreeWidget& tree, const Call& call);
 Status SetCellControl(TreeWidget& tree, const Call& call);
 Status GetCellControl(TreeWidget& tree, const Call& call);
 
-Status DefineNodeType(const Call& call);
-Status NodeTypeExists(const Call& call);
+Status DefineNodeType(TreeWidget& tree, const Call& call);
+Status NodeTypeExists(TreeWidget& tree, const Call& call);
 
 Status Retrieve(Widget& widget, const Call& call);
 Status Modify(Widget& widget, const Call& call);
@@ -60,7 +63,9 @@ Status DefineImage(const Call& call);
 // --- What they share -------------------------------------------------------------------------------------------------
 
 /// The node that a slot names, or `kNoNode`.
-NodeId FindNode(const TreeWidget& tree, Slot slot);
+inline NodeId FindNode(const TreeWidget& tree, Slot slot) {
+  return slot.Text() ? tree.Store().Table().FindAgain(slot.Text()) : kNoNode;
+}
 /// The parent that a slot names; null and the empty name mean the top level.
 NodeId FindParent(const TreeWidget& tree, Slot slot);
 

@@ -1,6 +1,5 @@
-#include <uiox/detail/wire/Handlers.h>
-
 #include <uiox/detail/NodeTable.h>
+#include <uiox/detail/wire/PlainValues.h>
 
 namespace uiox::wire {
 
@@ -44,21 +43,12 @@ const char* ParentName(const TreeStore& store, NodeId node) {
 
 void Inquire(TreeStore& store, NodeId node, const Option& option) {
   const Slot place = option.value;
-  switch (static_cast<NodeAttribute>(option.code)) {
+  const auto attribute = static_cast<NodeAttribute>(option.code);
+  switch (attribute) {
     case NodeAttribute::Label:
       return Answer<const wchar_t*>(place, store.Table().LentLabel(node));
-    case NodeAttribute::FirstInt:
-      return Answer<int>(place, store.FirstInt(node));
-    case NodeAttribute::Expanded:
-      return Answer<int>(place, store.Expanded(node));
     case NodeAttribute::SecondText:
       return Answer<const wchar_t*>(place, store.Table().LentSecondText(node));
-    case NodeAttribute::CheckState:
-      return Answer<std::uint32_t>(place, store.CheckState(node));
-    case NodeAttribute::PartlyChecked:
-      return Answer<int>(place, store.PartlyChecked(node) ? 1 : 0);
-    case NodeAttribute::UserData:
-      return Answer<void*>(place, store.UserData(node));
     case NodeAttribute::Type:
       return Answer<const char*>(place, Suite::Get().Types().Name(store.Type(node)));
     case NodeAttribute::Parent:
@@ -66,10 +56,8 @@ void Inquire(TreeStore& store, NodeId node, const Option& option) {
     case NodeAttribute::Children:
       if (option.array.word != 0) Answer<const char* const*>(option.array, store.Table().LentChildren(node));
       return Answer<int>(place, static_cast<int>(store.ChildCount(node)));
-    case NodeAttribute::ThirdInt:
-      return Answer<int>(place, store.ThirdInt(node));
-    case NodeAttribute::CheckSensitive:
-      return Answer<int>(place, store.CheckSensitive(node) ? 1 : 0);
+    default:
+      return AnswerPlain(option.shape, place, PlainValue(store, node, attribute));
   }
 }
 

@@ -2,11 +2,10 @@
 
 #include <uiox/detail/NodeTable.h>
 #include <uiox/detail/WideCodec.h>
-#include <uiox/detail/wire/Handlers.h>
+#include <uiox/detail/wire/PlainValues.h>
 
 #include <cstdlib>
 #include <cstring>
-#include <iterator>
 #include <new>
 #include <string_view>
 
@@ -37,29 +36,13 @@ void* CopyText(const char* text) {
 
 /// A list as one block: the pointers, then the characters that they point to. Null for an empty list.
 void* CopyChildren(const NodeTable& table, NodeId node) {
-  const std::size_t count = table.Children().Count(node);
-  if (count == 0) return nullptr;
-  // Names are looked at twice, first for their lengths; the pointers wait in the block meanwhile.
-  std::size_t bytes = 0;
-  const char* waiting[8] = {"", "", "", "", "", "", "", ""};  // names on their way from the memory
-  std::size_t turn = 0;
-  const auto measure = [&](const char* name) {
-    const char*& oldest = waiting[turn++ % std::size(waiting)];
-    bytes += std::strlen(oldest) + 1;
-    __builtin_prefetch(name);
-    oldest = name;
-  };
-  table.Children().ForEach(node, [&](NodeId child) { measure(table.Name(child)); });
-  for (std::size_t rest = 0; rest < std::size(waiting); ++rest) measure("");
-  bytes -= std::size(waiting);  // the ends of the empty names before the first
-  auto* pointers = static_cast<char**>(NewBlock(count * sizeof(char*) + bytes));
-  char* characters = reinterpret_cast<char*>(pointers + count);
-  char** place = pointers;
-  table.Children().ForEach(node, [&](NodeId child) {
-    *place++ = characters;
-    characters = stpcpy(characters, table.Name(child)) + 1;
-  });
-  table.ChildrenListed(node);
+  if (table.Children().Count(node) == 0) return nullptr;
+  const detail::ListedChildren& listed = table.ListChildren(node);
+  const std::string_view names = listed.Characters();
+  auto* pointers = static_cast<char**>(NewBlock(listed.Size() * sizeof(char*) + names.size()));
+  char* characters = reinterpret_cast<char*>(pointers + listed.Size());
+  std::memcpy(characters, names.data(), names.size());
+  for (std::size_t row = 0; row < listed.Size(); ++row) pointers[row] = characters + listed.Starts()[row];
   return pointers;
 }
 
@@ -88,7 +71,8 @@ void* Copy(const NodeTable& table, NodeId node, const Option& option) {
 
 void Hand(const TreeStore& store, NodeId node, const Option& option, void* copy) {
   const Slot place = option.value;
-  switch (static_cast<NodeAttribute>(option.code)) {
+  const auto attribute = static_cast<NodeAttribute>(option.code);
+  switch (attribute) {
     case NodeAttribute::Label:
     case NodeAttribute::SecondText:
     case NodeAttribute::Type:
@@ -97,20 +81,8 @@ void Hand(const TreeStore& store, NodeId node, const Option& option, void* copy)
     case NodeAttribute::Children:
       if (option.array.word != 0) Answer<void*>(option.array, copy);
       return Answer<int>(place, static_cast<int>(store.ChildCount(node)));
-    case NodeAttribute::FirstInt:
-      return Answer<int>(place, store.FirstInt(node));
-    case NodeAttribute::Expanded:
-      return Answer<int>(place, store.Expanded(node));
-    case NodeAttribute::CheckState:
-      return Answer<std::uint32_t>(place, store.CheckState(node));
-    case NodeAttribute::PartlyChecked:
-      return Answer<int>(place, store.PartlyChecked(node) ? 1 : 0);
-    case NodeAttribute::UserData:
-      return Answer<void*>(place, store.UserData(node));
-    case NodeAttribute::ThirdInt:
-      return Answer<int>(place, store.ThirdInt(node));
-    case NodeAttribute::CheckSensitive:
-      return Answer<int>(place, store.CheckSensitive(node) ? 1 : 0);
+    default:
+      return AnswerPlain(option.shape, place, PlainValue(store, node, attribute));
   }
 }
 

@@ -7,10 +7,6 @@ using oxecad_ui::toolkit::NodeAttribute;
 using oxecad_ui::toolkit::NodeOption;
 using oxecad_ui::toolkit::Operation;
 
-NodeId FindNode(const TreeWidget& tree, Slot slot) {
-  return slot.Text() ? tree.Store().Table().FindAgain(slot.Text()) : kNoNode;
-}
-
 NodeId FindParent(const TreeWidget& tree, Slot slot) {
   return slot.Text() && slot.Text()[0] != 0 ? FindNode(tree, slot) : kTop;
 }

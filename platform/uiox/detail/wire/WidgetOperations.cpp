@@ -1,6 +1,9 @@
+#include <uiox/detail/CodeIndex.h>
+#include <uiox/detail/NodeTable.h>
 #include <uiox/detail/wire/Handlers.h>
 
-#include <uiox/detail/NodeTable.h>
+#include <array>
+#include <utility>
 
 namespace uiox::wire {
 
@@ -50,7 +53,7 @@ Status SelectText(Widget& widget, const Call& call) {
   return kOk;
 }
 
-Status DefineNodeType(const Call& call) {
+Status DefineNodeType(TreeWidget&, const Call& call) {
   const auto* record = call.positional[0].Out<const NodeTypeRecord>();
   if (!record || !record->name) return kRefused;
   NodeTypes& types = Suite::Get().Types();
@@ -60,14 +63,48 @@ Status DefineNodeType(const Call& call) {
   return kOk;
 }
 
-Status NodeTypeExists(const Call& call) {
+Status NodeTypeExists(TreeWidget&, const Call& call) {
   if (!call.positional[0].Text()) return kRefused;
   if (call.positional[1].word == 0) return kNoPlace;
   Answer<int>(call.positional[1], Suite::Get().Types().IsDefined(call.positional[0].Text()) ? 1 : 0);
   return kOk;
 }
 
-int Operate(Widget& widget, const Call& call) {
+namespace {
+
+using TreeHandler = Status (*)(TreeWidget&, const Call&);
+
+/// What trees do, by the number of the operation's row; null for what they do not.
+constexpr auto kTreeHandlers = [] {
+  constexpr std::pair<Operation, TreeHandler> kHandlers[] = {
+      {Operation::AddNode, AddNode},
+      {Operation::AddNodeBefore, AddNode},
+      {Operation::DeleteNode, DeleteNode},
+      {Operation::MoveNode, MoveNode},
+      {Operation::ChangeNode, ChangeNode},
+      {Operation::QueryNode, QueryNode},
+      {Operation::ExpandNode, ExpandNode},
+      {Operation::CollapseNode, CollapseNode},
+      {Operation::CreateControl, CreateControl},
+      {Operation::DestroyControl, DestroyControl},
+      {Operation::DefineNodeType, DefineNodeType},
+      {Operation::SetCell, SetCell},
+      {Operation::GetCell, GetCell},
+      {Operation::SetCellControl, SetCellControl},
+      {Operation::GetCellControl, GetCellControl},
+      {Operation::SetNode, SetNode},
+      {Operation::GetNode, GetNode},
+      {Operation::InquireNode, InquireNode},
+      {Operation::NodeTypeExists, NodeTypeExists},
+      {Operation::InsertNode, InsertNode},
+  };
+  constexpr const detail::GroupIndex& kIndex = detail::kGroups[static_cast<std::size_t>(CodeGroup::Operation)];
+  std::array<TreeHandler, std::size(detail::kOperations) + 1> by_number{};
+  for (const auto& [operation, handler] : kHandlers) by_number[kIndex.NumberOf(static_cast<int>(operation))] = handler;
+  return by_number;
+}();
+
+int OperateOnAny(Widget& widget, const Call& call) {
   switch (static_cast<Operation>(call.code)) {
     case Operation::MoveAndResize:
       return MoveAndResize(widget, call);
@@ -80,54 +117,16 @@ int Operate(Widget& widget, const Call& call) {
     case Operation::SelectText:
       return SelectText(widget, call);
     default:
-      return widget.AsTree() ? OperateOnTree(*widget.AsTree(), call) : kWrongComponent;
+      return kBadList;
   }
 }
 
-int OperateOnTree(TreeWidget& tree, const Call& call) {
-  switch (static_cast<Operation>(call.code)) {
-    case Operation::AddNode:
-    case Operation::AddNodeBefore:
-      return AddNode(tree, call);
-    case Operation::InsertNode:
-      return InsertNode(tree, call);
-    case Operation::DeleteNode:
-      return DeleteNode(tree, call);
-    case Operation::MoveNode:
-      return MoveNode(tree, call);
-    case Operation::ChangeNode:
-      return ChangeNode(tree, call);
-    case Operation::QueryNode:
-      return QueryNode(tree, call);
-    case Operation::ExpandNode:
-      return ExpandNode(tree, call);
-    case Operation::CollapseNode:
-      return CollapseNode(tree, call);
-    case Operation::CreateControl:
-      return CreateControl(tree, call);
-    case Operation::DestroyControl:
-      return DestroyControl(tree, call);
-    case Operation::DefineNodeType:
-      return DefineNodeType(call);
-    case Operation::NodeTypeExists:
-      return NodeTypeExists(call);
-    case Operation::SetCell:
-      return SetCell(tree, call);
-    case Operation::GetCell:
-      return GetCell(tree, call);
-    case Operation::SetCellControl:
-      return SetCellControl(tree, call);
-    case Operation::GetCellControl:
-      return GetCellControl(tree, call);
-    case Operation::SetNode:
-      return SetNode(tree, call);
-    case Operation::GetNode:
-      return GetNode(tree, call);
-    case Operation::InquireNode:
-      return InquireNode(tree, call);
-    default:
-      return kBadList;
-  }
+}  // namespace
+
+int Operate(Widget& widget, const Call& call) {
+  const TreeHandler handle = kTreeHandlers[detail::IndexOf(CodeGroup::Operation).NumberOf(call.code)];
+  if (!handle) return OperateOnAny(widget, call);
+  return widget.Class() == WidgetClass::Tree ? handle(static_cast<TreeWidget&>(widget), call) : kWrongComponent;
 }
 
 }  // namespace uiox::wire
