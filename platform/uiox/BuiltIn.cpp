@@ -45,7 +45,7 @@ int Answer(Call& call) {
     case Function::SetAction:
       return OfComponent(call);
     case Function::Free:
-      return Free(call);
+      return Release(call.options[0]);
     case Function::GlobalInquire:
       return GlobalInquire(call);
     case Function::GlobalDoOperation:

@@ -44,6 +44,21 @@ int AttributeCall(Function function, const char* device, const char* component, 
   return Dispatch(call);
 }
 
+/// An option without a letter is in no table.
+int FreeCall(const Option& option, bool has_end) {
+  Call call(Function::Free);
+  call.option_group = CodeGroup::NodeAttribute;
+  call.code = option.code;
+  if (option.shape == 0) {
+    call.fault = Fault::UnknownOption;
+    call.fault_code = option.code;
+  } else {
+    call.options[call.option_count++] = option;
+    if (!has_end) call.fault = Fault::MissingEnd;
+  }
+  return Dispatch(call);
+}
+
 int ActionCall(Function function, const char* device, const char* component, int reason, ui_callback callback,
                void* client_data, void* value) {
   Call call = ComponentCall(function, device, component, reason);
@@ -72,7 +87,7 @@ OXECAD_UIOX_API int ui_do_operation(const char* device, const char* component, i
   va_list slots;
   if (uiox::wire::QuickRead::CanBe(operation)) {
     va_start(slots, operation);
-    const uiox::wire::QuickRead read(&slots);
+    const uiox::wire::QuickRead read(operation, &slots);
     va_end(slots);
     if (read.IsQuick()) return read.Answer(device, component);
   }
@@ -121,25 +136,20 @@ OXECAD_UIOX_API int ui_set_action(const char* device, const char* component, int
 }
 
 OXECAD_UIOX_API int ui_free(int attribute, ...) {
-  Call call(Function::Free);
-  call.option_group = CodeGroup::NodeAttribute;
-  call.code = attribute;
-  va_list slots;
-  va_start(slots, attribute);
-  uiox::wire::Decoder decoder(call, &slots);
   const uiox::detail::GroupIndex& attributes = uiox::detail::IndexOf(CodeGroup::NodeAttribute);
   const char letter = attributes.letters[attributes.NumberOf(attribute)];
-  if (letter == 0) {
-    call.fault = uiox::Fault::UnknownOption;
-    call.fault_code = attribute;
-  } else {
-    const uiox::Slot value = decoder.Next();
-    const uiox::Slot array = letter == 'l' ? decoder.Next() : uiox::Slot{0};
-    call.options[call.option_count++] = {attribute, letter, value, array};
-    if (decoder.NextCode() != 0) call.fault = uiox::Fault::MissingEnd;
+  uiox::Option option{attribute, letter, {0}, {0}};
+  bool has_end = false;
+  if (letter != 0) {
+    va_list slots;
+    va_start(slots, attribute);
+    option.value.word = va_arg(slots, std::intptr_t);
+    if (letter == 'l') option.array.word = va_arg(slots, std::intptr_t);
+    has_end = va_arg(slots, int) == 0;
+    va_end(slots);
   }
-  va_end(slots);
-  return uiox::Dispatch(call);
+  if (has_end && uiox::detail::g_watchers.AreNone()) return uiox::wire::Release(option);
+  return uiox::FreeCall(option, has_end);
 }
 
 OXECAD_UIOX_API int ui_create_search_path(int kind, const char* context) {

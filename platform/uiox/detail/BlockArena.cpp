@@ -41,7 +41,7 @@ void BlockArena::UseSpare() noexcept {
 
 BlockArena::Handle BlockArena::AllocateBig(std::size_t bytes) {
   if (free_big_.empty()) {
-    if (big_.size() == kBig) throw std::bad_alloc();
+    if (big_.size() == kBig - 1) throw std::bad_alloc();
     if (free_big_.capacity() <= big_.size()) free_big_.reserve(2 * big_.size() + 8);  // Free must not fail
     big_.push_back(nullptr);
     free_big_.push_back(static_cast<std::uint32_t>(big_.size() - 1));

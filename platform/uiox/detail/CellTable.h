@@ -28,6 +28,8 @@ class CellTable {
     const Cell* cell = Find(place);
     return cell ? cell->control : kNoControl;
   }
+  /// Where a cell lies, to have it fetched from memory; null for one that nothing was put into.
+  const void* Address(CellPlace place) const { return Find(place); }
   CellPlace PlaceOf(ControlId control) const { return control < places_.size() ? places_[control] : CellPlace{}; }
   /// Before a `Put`. Throws std::bad_alloc.
   void Prepare(CellPlace place, ControlId control);

@@ -50,6 +50,11 @@ class NodeGuess {
   /// Where its name stays from now on.
   void SetLastName(std::string_view name) { likely_[kSame].name = name; }
 
+  /// The child so many rows behind the next one, or `kTop`.
+  NodeId ChildAhead(std::size_t rows) const {
+    return likely_[kNextChild].id != kTop && row_ + rows < listed_.Size() ? listed_.Id(row_ + rows) : kTop;
+  }
+
   /// The children were handed out.
   void ChildrenListed() { LookAt(0); }
   /// The list is void.

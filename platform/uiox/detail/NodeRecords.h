@@ -13,18 +13,19 @@
 
 namespace uiox::detail {
 
-/// What a node has in any case; the rest lies in blocks, tables and, for rare values, in a map.
-struct NodeRecord {
-  BlockArena::Handle name;      // its characters and a closing 0
-  BlockArena::Handle label;     // an encoded wide text (WideCodec.h); none: empty
+/// What a node has in any case, in one cache line; the rest lies in blocks, tables and, for rare values, in a map.
+struct alignas(64) NodeRecord {
+  void* user_data;
   NodeId parent;                // of a free record: the next free one
-  std::uint32_t bits;           // flags below, type above; up to here what most calls look at lies in one cache line
+  std::uint32_t bits;           // flags below, type above
   BlockArena::Handle leaf;      // the block of the parent's child list that the node stands in
   BlockArena::Handle children;  // the root block of its own child list; none: no child
   std::uint32_t selected;       // its place in the selection plus 1, or 0
   BlockArena::Handle cells;     // its cells; none: all of them empty
-  void* user_data;
+  BlockArena::Handle label;     // the block of its label, or that it stands below; none: empty
+  unsigned char texts[28];      // its name, and its label where there is room (NodeTexts.h)
 };
+static_assert(sizeof(NodeRecord) == 64);
 
 enum NodeBits : std::uint32_t {
   kInUse = 1u << 0,
@@ -46,11 +47,7 @@ class NodeRecords {
   NodeRecord& operator[](NodeId id) { return blocks_[id >> kBlockBits][id & (kBlockSize - 1)]; }
   const NodeRecord& operator[](NodeId id) const { return blocks_[id >> kBlockBits][id & (kBlockSize - 1)]; }
 
-  /// A record may lie in two cache lines.
-  void Prefetch(NodeId id) const {
-    __builtin_prefetch(&(*this)[id]);
-    __builtin_prefetch(&(*this)[id].user_data);
-  }
+  void Prefetch(NodeId id) const { __builtin_prefetch(&(*this)[id]); }
 
   bool Has(NodeId id) const { return id != kTop && id < end_ && ((*this)[id].bits & kInUse) != 0; }
   std::size_t Size() const { return size_; }

@@ -9,7 +9,6 @@ namespace uiox {
 
 using detail::BlockArena;
 using detail::LentAnswers;
-using detail::NameBlock;
 using detail::NodeBits;
 using detail::NodeRecord;
 using detail::WideCodec;
@@ -22,8 +21,8 @@ NodeId NodeTable::Make(const NewNode& node) {
   const NodeId id = nodes_.Take();
   try {
     NodeRecord& record = nodes_[id];
-    record.name = NewName(node.name);
-    record.label = NewText(node.label);
+    texts_.SetName(record, node.name);
+    texts_.SetLabel(record, node.label);
     record.user_data = node.user_data;
     SetType(id, node.type);
     SetInt(id, kFirst, node.first_int);
@@ -40,8 +39,6 @@ NodeId NodeTable::Make(const NewNode& node) {
 
 NodeId NodeTable::Find(std::string_view name) const {
   const NodeId node = index_.Find(detail::Hash(name), [&](NodeId candidate) {
-    // The label is read next, mostly, and lies elsewhere.
-    if (const void* label = Label(candidate)) __builtin_prefetch(label);
     return detail::AreSame(NameOf(candidate), name);
   });
   return node == kTop ? kNoNode : node;
@@ -72,9 +69,8 @@ void NodeTable::AppendListed(NodeId parent) const {
   for (;;) {
     const detail::ChildLists::Run run = children_.RunFrom(parent, static_cast<std::uint32_t>(listed_.Size()));
     if (run.begin == run.end) break;
-    // Records, and names even more, lie anywhere in memory: all of a run are on their way before the first is needed.
+    // Records lie anywhere in memory: all of a run are on their way before the first is needed.
     for (const NodeId* child = run.begin; child != run.end; ++child) nodes_.Prefetch(*child);
-    for (const NodeId* child = run.begin; child != run.end; ++child) __builtin_prefetch(Name(*child));
     for (const NodeId* child = run.begin; child != run.end; ++child) listed_.Append(*child, NameOf(*child));
   }
   listed_.Finish();
@@ -117,13 +113,12 @@ void NodeTable::Free(NodeId node) noexcept {
   NodeRecord& record = nodes_[node];
   if ((record.bits & detail::kHasLent) != 0) lent_.Forget(node);
   if ((record.bits & detail::kHasRare) != 0) {
-    FreeText(rare_[node].second_text);
+    second_texts_.Free(rare_[node].second_text);
     rare_.erase(node);
   }
   if (record.selected != 0) selection_.Remove(node);
-  if (record.name != BlockArena::kNone) blocks_.Free(record.name, NameBlock::Bytes(NameOf(node)));
   std::replace(std::begin(marks_), std::end(marks_), node, kNoNode);
-  FreeText(record.label);
+  texts_.Free(record);
   cells_.Drop(node);
   children_.Drop(node);
   nodes_.Give(node);
@@ -163,53 +158,21 @@ void NodeTable::ChildrenChanged(NodeId parent) noexcept {
 
 // --- Texts -----------------------------------------------------------------------------------------------------------
 
-BlockArena::Handle NodeTable::NewName(std::string_view name) {
-  const BlockArena::Handle handle = blocks_.Allocate(NameBlock::Bytes(name));
-  NameBlock::Write(blocks_.At(handle), name);
-  return handle;
-}
-
-BlockArena::Handle NodeTable::NewText(std::wstring_view text) {
-  if (text.empty()) return BlockArena::kNone;
-  const WideCodec codec(text);
-  const BlockArena::Handle handle = blocks_.Allocate(codec.Bytes());
-  codec.Write(blocks_.At(handle));
-  return handle;
-}
-
-void NodeTable::FreeText(BlockArena::Handle handle) noexcept {
-  if (handle != BlockArena::kNone) blocks_.Free(handle, WideCodec::Bytes(blocks_.At(handle)));
-}
-
-bool NodeTable::ReplaceText(BlockArena::Handle& handle, std::wstring_view text) {
-  if (handle == BlockArena::kNone ? text.empty() : WideCodec::Equals(blocks_.At(handle), text)) return false;
-  const WideCodec codec(text);
-  const std::size_t before = handle == BlockArena::kNone ? 0 : WideCodec::Bytes(blocks_.At(handle));
-  if (before != 0 && codec.Bytes() != 0 && before <= BlockArena::kLargestSmall &&
-      BlockArena::SameSize(before, codec.Bytes())) {
-    codec.Write(blocks_.At(handle));
-    return true;
-  }
-  const BlockArena::Handle replacement = NewText(text);
-  FreeText(handle);
-  handle = replacement;
-  return true;
-}
-
 bool NodeTable::SetLabel(NodeId node, std::wstring_view label) {
-  if (!ReplaceText(nodes_[node].label, label)) return false;
+  if (!texts_.SetLabel(nodes_[node], label)) return false;
   if (HasBit(node, detail::kHasLent)) lent_.ForgetText(node, LentAnswers::kLabel);
   return true;
 }
 
 const void* NodeTable::SecondText(NodeId node) const {
   const Rare* rare = FindRare(node);
-  return rare ? TextBlock(rare->second_text) : nullptr;
+  return rare ? second_texts_.At(rare->second_text) : nullptr;
 }
 
 bool NodeTable::SetSecondText(NodeId node, std::wstring_view text) {
-  if (text.empty() && !FindRare(node)) return false;
-  if (!ReplaceText(NeedRare(node).second_text, text)) return false;
+  const void* before = SecondText(node);
+  if (before ? WideCodec::Equals(before, text) : text.empty()) return false;
+  second_texts_.Replace(NeedRare(node).second_text, text);
   if (HasBit(node, detail::kHasLent)) lent_.ForgetText(node, LentAnswers::kSecondText);
   return true;
 }

@@ -11,9 +11,9 @@
 #include <uiox/detail/IdIndex.h>
 #include <uiox/detail/LentAnswers.h>
 #include <uiox/detail/ListedChildren.h>
-#include <uiox/detail/NameBlock.h>
 #include <uiox/detail/NodeGuess.h>
 #include <uiox/detail/NodeRecords.h>
+#include <uiox/detail/NodeTexts.h>
 #include <uiox/detail/SelectionList.h>
 
 #include <cstddef>
@@ -42,14 +42,16 @@ class NodeTable {
     return node != kTop ? node : FindAnew(name);
   }
 
+  /// The child so many rows behind the next one that is likely to be named, or `kTop`.
+  NodeId ChildAhead(std::size_t rows) const { return guess_.ChildAhead(rows); }
   /// The children of a node, to be handed out: their names are likely to come back one after the other. Good until the
   /// next list or change. Throws std::bad_alloc.
   const detail::ListedChildren& ListChildren(NodeId parent) const;
 
   std::size_t Size() const { return index_.Size(); }
   bool Has(NodeId node) const { return nodes_.Has(node); }
-  const char* Name(NodeId node) const { return detail::NameBlock::Characters(blocks_.At(nodes_[node].name)); }
-  std::string_view NameOf(NodeId node) const { return detail::NameBlock::Name(blocks_.At(nodes_[node].name)); }
+  const char* Name(NodeId node) const { return NameOf(node).data(); }
+  std::string_view NameOf(NodeId node) const { return texts_.Name(nodes_[node]); }
   NodeId Parent(NodeId node) const { return nodes_[node].parent; }
   const detail::ChildLists& Children() const { return children_; }
 
@@ -68,7 +70,7 @@ class NodeTable {
 
   // --- Attributes ----------------------------------------------------------------------------------------------------
 
-  const void* Label(NodeId node) const { return TextBlock(nodes_[node].label); }
+  const void* Label(NodeId node) const { return texts_.Label(nodes_[node]); }
   bool SetLabel(NodeId node, std::wstring_view label);
   const void* SecondText(NodeId node) const;
   bool SetSecondText(NodeId node, std::wstring_view text);
@@ -117,13 +119,6 @@ class NodeTable {
   void AppendListed(NodeId parent) const;
   void ForgetListed(NodeId parent) noexcept;
   void NodesGone() noexcept;
-  const void* TextBlock(detail::BlockArena::Handle handle) const {
-    return handle == detail::BlockArena::kNone ? nullptr : blocks_.At(handle);
-  }
-  detail::BlockArena::Handle NewName(std::string_view name);
-  detail::BlockArena::Handle NewText(std::wstring_view text);
-  void FreeText(detail::BlockArena::Handle handle) noexcept;
-  bool ReplaceText(detail::BlockArena::Handle& handle, std::wstring_view text);
   const Rare* FindRare(NodeId node) const;
   Rare& NeedRare(NodeId node);
   int CommonInt(NodeId node, Int which) const;
@@ -133,6 +128,8 @@ class NodeTable {
 
   detail::NodeRecords nodes_;
   detail::BlockArena blocks_;
+  detail::NodeTexts texts_{blocks_};
+  detail::TextBlocks second_texts_{blocks_};
   detail::IdIndex index_;
   detail::ChildLists children_;
   detail::CellTable cells_;

@@ -69,6 +69,7 @@ WideCodec::WideCodec(std::wstring_view text) : text_(text) {
 }
 
 void WideCodec::Write(void* block) const {
+  if (text_.empty()) return;
   auto* bytes = static_cast<unsigned char*>(block);
   const bool is_long = text_.size() >= kShortest;
   const auto head = static_cast<std::uint16_t>(is_long ? kLong : kind_ | text_.size() << 2);

@@ -16,6 +16,8 @@ class WideCodec {
   explicit WideCodec(std::wstring_view text);
   /// Size of the block; 0 for the empty text.
   std::size_t Bytes() const { return bytes_; }
+  /// Whether each unit is one byte, so that the block needs no alignment.
+  bool IsOfBytes() const { return kind_ == 0; }
   void Write(void* block) const;
 
   static std::size_t Bytes(const void* block);

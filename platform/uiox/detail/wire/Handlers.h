@@ -39,7 +39,10 @@ Status QueryNode(TreeWidget& tree, const Call& call);
 Status SetNode(TreeWidget& tree, const Call& call);
 Status InquireNode(TreeWidget& tree, const Call& call);
 Status GetNode(TreeWidget& tree, const Call& call);
-Status Free(const Call& call);
+/// A copy of a text of a node, to be owned by the caller.
+Status HandCopy(const TreeWidget& tree, NodeId node, int attribute, Slot place);
+/// Frees what a node attribute handed out.
+Status Release(const Option& option);
 
 Status CreateControl(TreeWidget& tree, const Call& call);
 Status DestroyControl(TreeWidget& tree, const Call& call);

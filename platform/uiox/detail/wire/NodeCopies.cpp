@@ -51,9 +51,9 @@ const char* ParentName(const NodeTable& table, NodeId node) {
   return parent == kTop ? "" : table.Name(parent);
 }
 
-/// The copy that an option asks for, or null where it asks for no copy (or for that of an empty list).
-void* Copy(const NodeTable& table, NodeId node, const Option& option) {
-  switch (static_cast<NodeAttribute>(option.code)) {
+/// A copy of a text; null for what is no text.
+void* CopyOfText(const NodeTable& table, NodeId node, int attribute) {
+  switch (static_cast<NodeAttribute>(attribute)) {
     case NodeAttribute::Label:
       return CopyWide(table.Label(node));
     case NodeAttribute::SecondText:
@@ -62,11 +62,15 @@ void* Copy(const NodeTable& table, NodeId node, const Option& option) {
       return CopyText(Suite::Get().Types().Name(table.Type(node)));
     case NodeAttribute::Parent:
       return CopyText(ParentName(table, node));
-    case NodeAttribute::Children:
-      return option.array.word != 0 ? CopyChildren(table, node) : nullptr;
     default:
       return nullptr;
   }
+}
+
+/// The copy that an option asks for, or null where it asks for no copy (or for that of an empty list).
+void* Copy(const NodeTable& table, NodeId node, const Option& option) {
+  if (option.shape != 'L') return CopyOfText(table, node, option.code);
+  return option.array.word != 0 ? CopyChildren(table, node) : nullptr;
 }
 
 void Hand(const TreeStore& store, NodeId node, const Option& option, void* copy) {
@@ -107,8 +111,16 @@ Status GetNode(TreeWidget& tree, const Call& call) {
   return kOk;  // NOLINT(clang-analyzer-unix.Malloc): the copies are the caller's now
 }
 
-Status Free(const Call& call) {
-  const Option& option = call.options[0];
+Status HandCopy(const TreeWidget& tree, NodeId node, int attribute, Slot place) {
+  try {
+    Answer<void*>(place, CopyOfText(tree.Store().Table(), node, attribute));
+    return kOk;
+  } catch (const std::bad_alloc&) {
+    return kNoMemory;
+  }
+}
+
+Status Release(const Option& option) {
   const Slot place = option.shape == 'l' ? option.array : option.value;
   if (option.shape != 's' && option.shape != 'w' && option.shape != 'l') return kRefused;
   if (place.word == 0) return kNoPlace;

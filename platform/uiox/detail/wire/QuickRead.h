@@ -1,5 +1,5 @@
 /// \file
-/// Reads of plain values of one node, answered at once.
+/// Reads of one node, answered at once.
 #ifndef OXECAD_UIOX_DETAIL_WIRE_QUICKREAD_H
 #define OXECAD_UIOX_DETAIL_WIRE_QUICKREAD_H
 
@@ -12,32 +12,31 @@
 
 namespace uiox::wire {
 
-/// Whoever summarises or searches a tree asks each node for a number or two: most calls there are. A record of the call
-/// (Call.h) costs more than such an answer. This one reads the variable list itself and answers when the list holds
-/// nothing else, with what the decoded call would be answered; the list of any other call is read again from its start.
+/// Whoever summarises or searches a tree asks each node for a number or two, or for a copy of a text: most calls there
+/// are. A record of the call (Call.h) costs more than such an answer. This one reads the variable list itself and
+/// answers when the list holds nothing else, with what the decoded call would be answered; the list of any other call is
+/// read again from its start.
 class QuickRead {
  public:
-  /// Operations that read `NodeAttribute`s of a node, whose values stay good or are copies; plain ones are the same.
-  /// Where somebody watches the calls, each is decoded.
+  /// Whether an operation reads `NodeAttribute`s. Where somebody watches the calls, each is decoded.
   static bool CanBe(int operation) {
-    using oxecad_ui::toolkit::Operation;
-    if (!detail::g_watchers.AreNone()) return false;
-    return operation == static_cast<int>(Operation::InquireNode) || operation == static_cast<int>(Operation::GetNode);
+    return (operation == kInquire || operation == kCopy) && detail::g_watchers.AreNone();
   }
 
   /// Reads what stands behind the operation.
-  explicit QuickRead(va_list* slots) : node_{va_arg(*slots, std::intptr_t)} {
+  QuickRead(int operation, va_list* slots) : node_{va_arg(*slots, std::intptr_t)} {
     const detail::GroupIndex& attributes = detail::IndexOf(CodeGroup::NodeAttribute);
     for (int code = va_arg(*slots, int); code != 0; code = va_arg(*slots, int)) {
       const char letter = attributes.letters[attributes.NumberOf(code)];
-      if (count_ == kMost || !IsPlain(letter)) return;
+      is_text_ = operation == kCopy && (letter == 's' || letter == 'w');
+      if (count_ == kMost || !(is_text_ || IsPlain(letter))) return;
       values_[count_++] = {code, letter, {va_arg(*slots, std::intptr_t)}};
     }
-    is_whole_ = true;
+    is_quick_ = count_ < 2 || (IsPlain(values_[0].letter) && !is_text_);
   }
 
-  /// Whether there was nothing but plain values.
-  bool IsQuick() const { return is_whole_; }
+  /// Whether there was nothing but plain values, or one text.
+  bool IsQuick() const { return is_quick_; }
 
   int Answer(const char* device, const char* component) const {
     const Widget* widget = detail::g_found_component.Find(device, component);
@@ -49,6 +48,7 @@ class QuickRead {
     for (std::size_t i = 0; i < count_; ++i) {
       if (values_[i].place.word == 0) return kNoPlace;
     }
+    if (is_text_) return HandCopy(tree, node, values_[0].code, values_[0].place);
     for (std::size_t i = 0; i < count_; ++i) {
       const auto attribute = static_cast<oxecad_ui::toolkit::NodeAttribute>(values_[i].code);
       AnswerPlain(values_[i].letter, values_[i].place, PlainValue(tree.Store(), node, attribute));
@@ -57,6 +57,8 @@ class QuickRead {
   }
 
  private:
+  static constexpr int kInquire = static_cast<int>(oxecad_ui::toolkit::Operation::InquireNode);
+  static constexpr int kCopy = static_cast<int>(oxecad_ui::toolkit::Operation::GetNode);
   static constexpr std::size_t kMost = 2;
 
   struct Value {
@@ -68,7 +70,8 @@ class QuickRead {
   Slot node_;
   Value values_[kMost];
   std::size_t count_ = 0;
-  bool is_whole_ = false;
+  bool is_text_ = false;
+  bool is_quick_ = false;
 };
 
 }  // namespace uiox::wire
