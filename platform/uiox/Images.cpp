@@ -1,16 +1,38 @@
 #include <uiox/Images.h>
 #include <uiox/Suite.h>
+#include <uiox/detail/Hash.h>
+#include <uiox/detail/IdIndex.h>
 
-#include <map>
+#include <deque>
 #include <set>
+#include <utility>
 
 namespace uiox {
 
 struct ImageBag::Entries {
-  std::map<std::string, Image, std::less<>> images;
+  struct Named {
+    std::string name;
+    Image image;
+  };
+  std::deque<Named> images;                    // a deque, so that images stay where they are
+  detail::IdIndex index;                       // of a place in it plus 1
   std::set<std::string, std::less<>> missing;  // neither on the path nor built in, or damaged
-  const std::string* last_name = nullptr;
-  const Image* last = nullptr;
+  Named* last = nullptr;                       // the one that was found last
+
+  Named* Find(std::string_view name) {
+    if (last && last->name == name) return last;
+    const detail::IdIndex::Id known =
+        index.Find(detail::Hash(name), [&](detail::IdIndex::Id id) { return images[id - 1].name == name; });
+    if (known != 0) last = &images[known - 1];
+    return known != 0 ? last : nullptr;
+  }
+  /// There is none of that name.
+  Named& Add(std::string_view name, Image image) {
+    index.Reserve();
+    images.push_back({std::string(name), std::move(image)});
+    index.Insert(detail::Hash(name), static_cast<detail::IdIndex::Id>(images.size()));
+    return images.back();
+  }
 };
 
 namespace {
@@ -36,29 +58,26 @@ ImageBag::ImageBag() : entries_(std::make_unique<Entries>()) {}
 ImageBag::~ImageBag() = default;
 
 const Image* ImageBag::Find(std::string_view name) {
-  Entries& entries = *entries_;
-  if (entries.last && *entries.last_name == name) return entries.last;
-  auto found = entries.images.find(name);
-  if (found == entries.images.end()) {
-    if (name.empty() || entries.missing.count(name) != 0) return nullptr;
-    Image image;
-    if (!Load(Suite::Get().Resources(), name, image)) {
-      entries.missing.emplace(name);
-      return nullptr;
-    }
-    found = entries.images.emplace(std::string(name), std::move(image)).first;
+  if (const Entries::Named* known = entries_->Find(name)) return &known->image;
+  if (name.empty() || entries_->missing.count(name) != 0) return nullptr;
+  Image image;
+  if (!Load(Suite::Get().Resources(), name, image)) {
+    entries_->missing.emplace(name);
+    return nullptr;
   }
-  entries.last_name = &found->first;
-  entries.last = &found->second;
-  return entries.last;
+  return &entries_->Add(name, std::move(image)).image;
 }
 
 bool ImageBag::Define(std::string_view name, Image image) {
   if (name.empty() || !IsWellFormed(image)) return false;
-  const auto [place, added] = entries_->images.try_emplace(std::string(name));
-  place->second = std::move(image);
-  entries_->missing.erase(place->first);
-  Suite::Get().Tell(&SuiteObserver::ImageDefined, place->first.c_str());
+  Entries::Named* named = entries_->Find(name);
+  if (named) {
+    named->image = std::move(image);
+  } else {
+    named = &entries_->Add(name, std::move(image));
+    if (!entries_->missing.empty()) entries_->missing.erase(named->name);
+  }
+  Suite::Get().Tell(&SuiteObserver::ImageDefined, named->name.c_str());
   return true;
 }
 
