@@ -18,19 +18,22 @@ class ChildNames {
   ChildNames(const Widget& tree, const char* node) {
     const LentNames lent(tree, node, Release::WhenNotEmpty);
     std::size_t bytes = 0;
-    const char* first = nullptr;
-    bool together = true;  // toolkits mostly lend names one behind the other
+    const char* next = nullptr;  // where the next name is when it stands right behind this one
+    std::size_t apart = 0;
     for (const char* name : lent) {
       if (name == nullptr) continue;
-      if (m_count++ == 0) first = name;
-      together = together && name == first + bytes;
-      bytes += std::strlen(name) + 1;
+      ++m_count;
+      apart += name != next;
+      const std::size_t size = std::strlen(name) + 1;
+      bytes += size;
+      next = name + size;
     }
     if (m_count == 0) return;
     m_names = std::make_unique_for_overwrite<const char*[]>(m_count + bytes / sizeof(const char*) + 1);
     char* const characters = reinterpret_cast<char*>(m_names.get() + m_count);
-    if (together) {
-      CopyBlock(lent, first, bytes, characters);
+    const bool together = apart == 1 && m_count == static_cast<std::size_t>(lent.Count());
+    if (together) {  // toolkits mostly lend names one behind the other, all of them
+      CopyBlock(lent, bytes, characters);
     } else {
       CopyEach(lent, characters);
     }
@@ -43,12 +46,10 @@ class ChildNames {
   const char* const* end() const { return m_names.get() + m_count; }
 
  private:
-  void CopyBlock(const LentNames& lent, const char* first, std::size_t bytes, char* characters) {
-    std::memcpy(characters, first, bytes);
-    const char** place = m_names.get();
-    for (const char* name : lent) {
-      if (name != nullptr) *place++ = characters + (name - first);
-    }
+  void CopyBlock(const LentNames& lent, std::size_t bytes, char* characters) {
+    const char* const* const names = lent.begin();
+    std::memcpy(characters, names[0], bytes);
+    for (std::size_t index = 0; index < m_count; ++index) m_names[index] = characters + (names[index] - names[0]);
   }
   void CopyEach(const LentNames& lent, char* characters) {
     const char** place = m_names.get();

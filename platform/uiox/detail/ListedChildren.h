@@ -6,6 +6,7 @@
 #include <uiox/NodeId.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 #include <vector>
 
@@ -15,18 +16,18 @@ namespace uiox::detail {
 /// mostly goes through them next, and mostly lists the same ones again when another has been added behind them.
 class ListedChildren {
  public:
+  struct Child {
+    NodeId id;
+    std::uint32_t size;  // of its name, without the 0
+  };
+
   /// Whether these are the children of a node, but for those that came behind them since.
   bool AreOf(NodeId parent) const { return is_good_ && parent == parent_; }
-  std::size_t Size() const { return ids_.size(); }
-  NodeId Id(std::size_t row) const { return ids_[row]; }
-  /// Ends with a 0. Good until the next change of the list.
-  std::string_view Name(std::size_t row) const {
-    return {characters_.data() + starts_[row], starts_[row + 1] - starts_[row] - 1};
-  }
-  /// Of all names and their closing zeroes.
-  std::string_view Characters() const { return {characters_.data(), characters_.size()}; }
-  /// Where a name starts among the characters.
-  const std::vector<std::size_t>& Starts() const { return starts_; }
+  std::size_t Size() const { return children_.empty() ? 0 : children_.size() - 1; }
+  /// `Size` of them, and behind the last one a child without a name, which has the id `kTop`.
+  const Child* Children() const { return children_.data(); }
+  /// Their names in the same order, each with a closing 0.
+  std::string_view Names() const { return {names_.data(), names_.size()}; }
 
   /// Void: whoever asks has to begin anew.
   void Forget() { is_good_ = false; }
@@ -34,29 +35,27 @@ class ListedChildren {
   void Begin(NodeId parent) {
     is_good_ = false;
     parent_ = parent;
-    ids_.clear();
-    starts_.assign(1, 0);
-    characters_.clear();
+    children_.assign(1, kEnd);
+    names_.clear();
   }
   /// Throws std::bad_alloc; the list is to be forgotten then.
   void Append(NodeId child, std::string_view name) {
-    ids_.push_back(child);
-    characters_.insert(characters_.end(), name.data(), name.data() + name.size() + 1);
-    starts_.push_back(characters_.size());
+    children_.push_back(kEnd);
+    names_.insert(names_.end(), name.data(), name.data() + name.size() + 1);
+    children_[children_.size() - 2] = {child, static_cast<std::uint32_t>(name.size())};
   }
   void Finish() { is_good_ = true; }
   /// Gives the memory back.
   void Clear() noexcept { *this = ListedChildren(); }
-  std::size_t MemoryUse() const {
-    return ids_.capacity() * sizeof(ids_[0]) + starts_.capacity() * sizeof(starts_[0]) + characters_.capacity();
-  }
+  std::size_t MemoryUse() const { return children_.capacity() * sizeof(Child) + names_.capacity(); }
 
  private:
+  static constexpr Child kEnd{kTop, 0};
+
   bool is_good_ = false;
   NodeId parent_ = kTop;
-  std::vector<NodeId> ids_;
-  std::vector<std::size_t> starts_;  // one more than ids
-  std::vector<char> characters_;
+  std::vector<Child> children_;
+  std::vector<char> names_;
 };
 
 }  // namespace uiox::detail

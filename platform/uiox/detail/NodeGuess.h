@@ -52,11 +52,12 @@ class NodeGuess {
 
   /// The child so many rows behind the next one, or `kTop`.
   NodeId ChildAhead(std::size_t rows) const {
-    return likely_[kNextChild].id != kTop && row_ + rows < listed_.Size() ? listed_.Id(row_ + rows) : kTop;
+    const bool is_there = likely_[kNextChild].id != kTop && next_ + rows < listed_.Children() + listed_.Size();
+    return is_there ? next_[rows].id : kTop;
   }
 
   /// The children were handed out.
-  void ChildrenListed() { LookAt(0); }
+  void ChildrenListed() { LookAt(listed_.Children(), listed_.Names().data()); }
   /// The list is void.
   void ListForgotten() { likely_[kNextChild] = {}; }
   /// Any node may have gone.
@@ -78,21 +79,21 @@ class NodeGuess {
     Note(step);
     if (step == kNextChild) {
       likely_[kSame] = node;
-      LookAt(row_ + 1);
+      LookAt(next_ + 1, node.name.data() + node.name.size() + 1);
     }
     return node.id;
   }
   void Note(Step step) { past_ = (past_ << kStepBits | step) % after_.size(); }
-  void LookAt(std::size_t row) {
-    row_ = row;
-    likely_[kNextChild] = row < listed_.Size() ? Node{listed_.Id(row), listed_.Name(row)} : Node{};
+  void LookAt(const ListedChildren::Child* child, const char* name) {
+    next_ = child;
+    likely_[kNextChild] = {child->id, {name, child->size}};
   }
 
   const ListedChildren& listed_;
   std::array<Step, std::size_t{1} << kStepBits * kSteps> after_{};  // by the last steps
   std::array<Node, kNextChild + 1> likely_{};                       // by step
   std::size_t past_ = 0;
-  std::size_t row_ = 0;  // of the next child
+  const ListedChildren::Child* next_ = nullptr;
 };
 
 }  // namespace uiox::detail

@@ -254,7 +254,7 @@ const char* const* NodeTable::LentChildren(NodeId node) {
   if (!answers.children) {
     const detail::ListedChildren& listed = ListChildren(node);
     answers.children = std::make_unique<const char*[]>(count);
-    for (std::size_t row = 0; row < count; ++row) answers.children[row] = Name(listed.Id(row));
+    for (std::size_t row = 0; row < count; ++row) answers.children[row] = Name(listed.Children()[row].id);
     nodes_[node].bits |= detail::kHasLent;
   } else if (listed_.AreOf(node)) {
     guess_.ChildrenListed();

@@ -38,11 +38,14 @@ void* CopyText(const char* text) {
 void* CopyChildren(const NodeTable& table, NodeId node) {
   if (table.Children().Count(node) == 0) return nullptr;
   const detail::ListedChildren& listed = table.ListChildren(node);
-  const std::string_view names = listed.Characters();
+  const std::string_view names = listed.Names();
   auto* pointers = static_cast<char**>(NewBlock(listed.Size() * sizeof(char*) + names.size()));
   char* characters = reinterpret_cast<char*>(pointers + listed.Size());
   std::memcpy(characters, names.data(), names.size());
-  for (std::size_t row = 0; row < listed.Size(); ++row) pointers[row] = characters + listed.Starts()[row];
+  for (std::size_t row = 0; row < listed.Size(); ++row) {
+    pointers[row] = characters;
+    characters += listed.Children()[row].size + 1;
+  }
   return pointers;
 }
 

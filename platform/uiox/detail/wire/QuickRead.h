@@ -24,7 +24,7 @@ class QuickRead {
   }
 
   /// Reads what stands behind the operation.
-  QuickRead(int operation, va_list* slots) : node_{va_arg(*slots, std::intptr_t)} {
+  [[gnu::always_inline]] QuickRead(int operation, va_list* slots) : node_{va_arg(*slots, std::intptr_t)} {
     const detail::GroupIndex& attributes = detail::IndexOf(CodeGroup::NodeAttribute);
     for (int code = va_arg(*slots, int); code != 0; code = va_arg(*slots, int)) {
       const char letter = attributes.letters[attributes.NumberOf(code)];
@@ -38,7 +38,7 @@ class QuickRead {
   /// Whether there was nothing but plain values, or one text.
   bool IsQuick() const { return is_quick_; }
 
-  int Answer(const char* device, const char* component) const {
+  [[gnu::always_inline]] int Answer(const char* device, const char* component) const {
     const Widget* widget = detail::g_found_component.Find(device, component);
     if (!widget) return kNoComponent;
     if (widget->Class() != WidgetClass::Tree) return kWrongComponent;
