@@ -40,19 +40,19 @@ class NodeGuess {
   /// It was none of them. The name stays where it is until the node goes.
   void FoundElsewhere(NodeId node, std::string_view name) {
     // At the end of a list there was no guess, and nothing to learn.
-    if (likely_[after_[past_]].id != kTop) after_[past_] = kElsewhere;
+    if (likely_[after_[past_]].child.id != kTop) after_[past_] = kElsewhere;
     Note(kElsewhere);
-    likely_[kSame] = {node, name};
+    likely_[kSame] = {name.data(), {node, static_cast<std::uint32_t>(name.size())}};
   }
 
   /// The node that the last call named, or `kTop`.
-  NodeId Last() const { return likely_[kSame].id; }
+  NodeId Last() const { return likely_[kSame].child.id; }
   /// Where its name stays from now on.
-  void SetLastName(std::string_view name) { likely_[kSame].name = name; }
+  void SetLastName(const char* name) { likely_[kSame].name = name; }
 
   /// The child so many rows behind the next one, or `kTop`.
   NodeId ChildAhead(std::size_t rows) const {
-    const bool is_there = likely_[kNextChild].id != kTop && next_ + rows < listed_.Children() + listed_.Size();
+    const bool is_there = likely_[kNextChild].child.id != kTop && next_ + rows < listed_.Children() + listed_.Size();
     return is_there ? next_[rows].id : kTop;
   }
 
@@ -69,24 +69,25 @@ class NodeGuess {
   static constexpr unsigned kSteps = 6;
 
   struct Node {
-    NodeId id = kTop;
-    std::string_view name;
+    const char* name = "";
+    ListedChildren::Child child{kTop, 0};
   };
 
   NodeId TryStep(Step step, std::string_view name) {
-    const Node node = likely_[step];
-    if (node.id == kTop || !AreSame(name, node.name)) return kTop;
+    const ListedChildren::Child child = likely_[step].child;
+    const char* const text = likely_[step].name;
+    if (child.id == kTop || !AreSame(name, {text, child.size})) return kTop;
     Note(step);
     if (step == kNextChild) {
-      likely_[kSame] = node;
-      LookAt(next_ + 1, node.name.data() + node.name.size() + 1);
+      likely_[kSame] = {text, child};
+      LookAt(next_ + 1, text + child.size + 1);
     }
-    return node.id;
+    return child.id;
   }
   void Note(Step step) { past_ = (past_ << kStepBits | step) % after_.size(); }
   void LookAt(const ListedChildren::Child* child, const char* name) {
     next_ = child;
-    likely_[kNextChild] = {child->id, {name, child->size}};
+    likely_[kNextChild] = {name, *child};
   }
 
   const ListedChildren& listed_;

@@ -54,7 +54,7 @@ NodeId NodeTable::FindAnew(std::string_view name) const {
 const detail::ListedChildren& NodeTable::ListChildren(NodeId parent) const {
   const bool more = listed_.AreOf(parent);
   if (!more || listed_.Size() < children_.Count(parent)) {
-    if (guess_.Last() != kTop) guess_.SetLastName(NameOf(guess_.Last()));  // it may stand in the list
+    if (guess_.Last() != kTop) guess_.SetLastName(Name(guess_.Last()));  // it may stand in the list
     guess_.ListForgotten();
     if (!more) listed_.Begin(parent);
     AppendListed(parent);
