@@ -22,18 +22,26 @@ bool FailsNow() {
   return true;
 }
 
-void* Allocate(std::size_t bytes) {
-  void* block = FailsNow() ? nullptr : std::malloc(bytes == 0 ? 1 : bytes);
+void* OrThrow(void* block) {
   if (!block) throw std::bad_alloc();
   return block;
+}
+
+void* Allocate(std::size_t bytes) { return OrThrow(FailsNow() ? nullptr : std::malloc(bytes == 0 ? 1 : bytes)); }
+
+/// Only whole multiples of an alignment are allocated so.
+void* Allocate(std::size_t bytes, std::align_val_t alignment) {
+  return OrThrow(FailsNow() ? nullptr : std::aligned_alloc(static_cast<std::size_t>(alignment), bytes));
 }
 
 }  // namespace
 
 void* operator new(std::size_t bytes) { return Allocate(bytes); }
 void* operator new[](std::size_t bytes) { return Allocate(bytes); }
+void* operator new[](std::size_t bytes, std::align_val_t alignment) { return Allocate(bytes, alignment); }
 void operator delete(void* block) noexcept { std::free(block); }
 void operator delete[](void* block) noexcept { std::free(block); }
+void operator delete[](void* block, std::align_val_t) noexcept { std::free(block); }
 void operator delete(void* block, std::size_t) noexcept { std::free(block); }
 void operator delete[](void* block, std::size_t) noexcept { std::free(block); }
 
@@ -197,6 +205,35 @@ TEST_F(MemoryFailure, OfAnInquiryAnswersNothing) {
     }
     EXPECT_NE(result, 0);
     EXPECT_EQ(count, 77);
+  }
+}
+
+TEST_F(MemoryFailure, OfACopiedListHandsOutNothing) {
+  for (int round = 0; round < 3; ++round) {
+    // The list is made anew, then only what came behind it, then nothing of it.
+    if (round == 1) {
+      for (int i = 0; i < 200; ++i) ASSERT_EQ(Add("behind" + std::to_string(i), "root"), 0);
+    }
+    const int expected = round == 0 ? 300 : 500;
+    for (int n = 1;; ++n) {
+      int count = 77;
+      char** names = nullptr;
+      g_failed = false;
+      g_until_failure = n;
+      const int result = Do(2202, "root", 284, &count, &names);
+      g_until_failure = 0;
+      if (!g_failed) {
+        ASSERT_EQ(count, expected);
+        for (int i = 0; i < count; ++i) {
+          EXPECT_STREQ(names[i], store.Name(store.ChildAt(Node("root"), static_cast<std::uint32_t>(i))));
+        }
+        EXPECT_EQ(ui_free(284, static_cast<std::intptr_t>(count), &names, kEnd), 0);
+        break;
+      }
+      EXPECT_NE(result, 0);
+      EXPECT_EQ(count, 77);
+      EXPECT_EQ(names, nullptr);
+    }
   }
 }
 
