@@ -6,6 +6,7 @@
 #include <limits>
 #include <locale>
 #include <sstream>
+#include <string_view>
 
 #include <uicomps/toolkit/ImageCalls.h>
 
@@ -88,9 +89,11 @@ const char* ColorIconBag::GetColorIcon(const char* name, unsigned int color) {
 std::string ColorIconBag::GetIconName(const char* name, unsigned int color) {
   char digits[std::numeric_limits<unsigned int>::digits10 + 1];
   const std::to_chars_result written = std::to_chars(std::begin(digits), std::end(digits), color);
-  std::string icon(name);
-  icon += '_';
-  icon.append(digits, written.ptr);
+  const std::string_view base(name);
+  const std::string_view number(digits, static_cast<std::size_t>(written.ptr - digits));
+  std::string icon;
+  icon.reserve(base.size() + 1 + number.size());
+  icon.append(base).append(1, '_').append(number);
   return icon;
 }
 

@@ -1,5 +1,5 @@
 /// \file
-/// The list of children that was handed out last.
+/// A list of children that was handed out.
 #ifndef OXECAD_UIOX_DETAIL_LISTEDCHILDREN_H
 #define OXECAD_UIOX_DETAIL_LISTEDCHILDREN_H
 
@@ -12,7 +12,7 @@
 
 namespace uiox::detail {
 
-/// A node's children, and their names one behind the other, as they were handed out last. Whoever lists children
+/// A node's children, and their names one behind the other, as they were handed out. Whoever lists children
 /// mostly goes through them next, and mostly lists the same ones again when another has been added behind them.
 class ListedChildren {
  public:

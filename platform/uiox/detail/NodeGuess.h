@@ -20,8 +20,6 @@ namespace uiox::detail {
 /// that is wrong costs a comparison of two names, a right one saves the search for the name.
 class NodeGuess {
  public:
-  explicit NodeGuess(const ListedChildren& listed) : listed_(listed) {}
-
   /// The node of that name, or `kTop` where it is not the one that was expected.
   NodeId Try(std::string_view name) { return TryStep(after_[past_], name); }
 
@@ -52,14 +50,20 @@ class NodeGuess {
 
   /// The child so many rows behind the next one, or `kTop`.
   NodeId ChildAhead(std::size_t rows) const {
-    const bool is_there = likely_[kNextChild].child.id != kTop && next_ + rows < listed_.Children() + listed_.Size();
+    const bool is_there = likely_[kNextChild].child.id != kTop && rows < static_cast<std::size_t>(end_ - next_);
     return is_there ? next_[rows].id : kTop;
   }
 
-  /// The children were handed out.
-  void ChildrenListed() { LookAt(listed_.Children(), listed_.Names().data()); }
-  /// The list is void.
-  void ListForgotten() { likely_[kNextChild] = {}; }
+  /// The children of a list were handed out.
+  void ChildrenListed(const ListedChildren& list) {
+    list_ = &list;
+    end_ = list.Children() + list.Size();
+    LookAt(list.Children(), list.Names().data());
+  }
+  /// A list is void.
+  void ListForgotten(const ListedChildren& list) {
+    if (&list == list_) likely_[kNextChild] = {};
+  }
   /// Any node may have gone.
   void NodesGone() { likely_ = {}; }
 
@@ -90,11 +94,12 @@ class NodeGuess {
     likely_[kNextChild] = {name, *child};
   }
 
-  const ListedChildren& listed_;
   std::array<Step, std::size_t{1} << kStepBits * kSteps> after_{};  // by the last steps
   std::array<Node, kNextChild + 1> likely_{};                       // by step
   std::size_t past_ = 0;
+  const ListedChildren* list_ = nullptr;  // that was handed out last
   const ListedChildren::Child* next_ = nullptr;
+  const ListedChildren::Child* end_ = nullptr;
 };
 
 }  // namespace uiox::detail

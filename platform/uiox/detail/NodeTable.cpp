@@ -51,35 +51,43 @@ NodeId NodeTable::FindAnew(std::string_view name) const {
   return node;
 }
 
+/// Where the children of a node are listed; they may be those of another one yet.
+detail::ListedChildren& NodeTable::ListOf(NodeId parent) const {
+  constexpr std::uint32_t kScatter = 0x9E3779B1u;
+  return lists_[(parent * kScatter) >> (32 - kListBits)];
+}
+
 const detail::ListedChildren& NodeTable::ListChildren(NodeId parent) const {
-  const bool more = listed_.AreOf(parent);
-  if (!more || listed_.Size() < children_.Count(parent)) {
+  detail::ListedChildren& list = ListOf(parent);
+  const bool more = list.AreOf(parent);
+  if (!more || list.Size() < children_.Count(parent)) {
     if (guess_.Last() != kTop) guess_.SetLastName(Name(guess_.Last()));  // it may stand in the list
-    guess_.ListForgotten();
-    if (!more) listed_.Begin(parent);
-    AppendListed(parent);
+    guess_.ListForgotten(list);
+    if (!more) list.Begin(parent);
+    AppendListed(list, parent);
   }
-  guess_.ChildrenListed();
-  return listed_;
+  guess_.ChildrenListed(list);
+  return list;
 }
 
 /// Appends what is not in the list yet.
-void NodeTable::AppendListed(NodeId parent) const {
-  listed_.Forget();
+void NodeTable::AppendListed(detail::ListedChildren& list, NodeId parent) const {
+  list.Forget();
   for (;;) {
-    const detail::ChildLists::Run run = children_.RunFrom(parent, static_cast<std::uint32_t>(listed_.Size()));
+    const detail::ChildLists::Run run = children_.RunFrom(parent, static_cast<std::uint32_t>(list.Size()));
     if (run.begin == run.end) break;
     // Records lie anywhere in memory: all of a run are on their way before the first is needed.
     for (const NodeId* child = run.begin; child != run.end; ++child) nodes_.Prefetch(*child);
-    for (const NodeId* child = run.begin; child != run.end; ++child) listed_.Append(*child, NameOf(*child));
+    for (const NodeId* child = run.begin; child != run.end; ++child) list.Append(*child, NameOf(*child));
   }
-  listed_.Finish();
+  list.Finish();
 }
 
 void NodeTable::ForgetListed(NodeId parent) noexcept {
-  if (!listed_.AreOf(parent)) return;
-  listed_.Forget();
-  guess_.ListForgotten();
+  detail::ListedChildren& list = ListOf(parent);
+  if (!list.AreOf(parent)) return;
+  list.Forget();
+  guess_.ListForgotten(list);
 }
 
 void NodeTable::Place(NodeId node, NodeId parent, NodeId before) noexcept {
@@ -125,13 +133,13 @@ void NodeTable::Free(NodeId node) noexcept {
 }
 
 void NodeTable::NodesGone() noexcept {
-  listed_.Forget();
+  for (detail::ListedChildren& list : lists_) list.Forget();
   guess_.NodesGone();
 }
 
 void NodeTable::Clear() noexcept {
   NodesGone();
-  listed_.Clear();
+  for (detail::ListedChildren& list : lists_) list.Clear();
   std::fill(std::begin(marks_), std::end(marks_), kNoNode);
   selection_.Clear();
   cells_.Clear();
@@ -252,12 +260,12 @@ const char* const* NodeTable::LentChildren(NodeId node) {
   if (count == 0) return nullptr;
   LentAnswers::Answers& answers = lent_.Of(node);
   if (!answers.children) {
-    const detail::ListedChildren& listed = ListChildren(node);
+    const detail::ListedChildren& list = ListChildren(node);
     answers.children = std::make_unique<const char*[]>(count);
-    for (std::size_t row = 0; row < count; ++row) answers.children[row] = Name(listed.Children()[row].id);
+    for (std::size_t row = 0; row < count; ++row) answers.children[row] = Name(list.Children()[row].id);
     nodes_[node].bits |= detail::kHasLent;
-  } else if (listed_.AreOf(node)) {
-    guess_.ChildrenListed();
+  } else if (ListOf(node).AreOf(node)) {
+    guess_.ChildrenListed(ListOf(node));
   }
   return answers.children.get();
 }
@@ -290,8 +298,10 @@ const char* const* NodeTable::LentSelection() {
 }
 
 std::size_t NodeTable::MemoryUse() const {
-  return nodes_.MemoryUse() + blocks_.MemoryUse() + index_.MemoryUse() + cells_.MemoryUse() + selection_.MemoryUse() +
-         rare_.size() * (sizeof(Rare) + 4 * sizeof(void*)) + listed_.MemoryUse();
+  std::size_t lists = 0;
+  for (const detail::ListedChildren& list : lists_) lists += list.MemoryUse();
+  return lists + nodes_.MemoryUse() + blocks_.MemoryUse() + index_.MemoryUse() + cells_.MemoryUse() + selection_.MemoryUse() +
+         rare_.size() * (sizeof(Rare) + 4 * sizeof(void*));
 }
 
 }  // namespace uiox

@@ -16,6 +16,7 @@
 #include <uiox/detail/NodeTexts.h>
 #include <uiox/detail/SelectionList.h>
 
+#include <array>
 #include <cstddef>
 #include <memory>
 #include <string_view>
@@ -116,7 +117,8 @@ class NodeTable {
   };
 
   NodeId FindAnew(std::string_view name) const;
-  void AppendListed(NodeId parent) const;
+  detail::ListedChildren& ListOf(NodeId parent) const;
+  void AppendListed(detail::ListedChildren& list, NodeId parent) const;
   void ForgetListed(NodeId parent) noexcept;
   void NodesGone() noexcept;
   const Rare* FindRare(NodeId node) const;
@@ -139,8 +141,9 @@ class NodeTable {
   std::unique_ptr<const char*[]> lent_selection_;
   std::uint64_t lent_selection_version_ = 0;
   NodeId marks_[kMarks] = {kNoNode, kNoNode, kNoNode, kNoNode};
-  mutable detail::ListedChildren listed_;
-  mutable detail::NodeGuess guess_{listed_};
+  static constexpr unsigned kListBits = 3;  // a walk up a tree lists the same few nodes again and again
+  mutable std::array<detail::ListedChildren, 1u << kListBits> lists_;
+  mutable detail::NodeGuess guess_;
 };
 
 }  // namespace uiox

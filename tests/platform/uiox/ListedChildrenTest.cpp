@@ -93,6 +93,34 @@ TEST_F(ListedChildren, OfAnotherParentAreNotMixedUp) {
   EXPECT_EQ(Copied("q"), "d e");
 }
 
+TEST_F(ListedChildren, OfManyParentsAreTheirOwn) {
+  constexpr int kParents = 40;
+  std::vector<std::string> expected(kParents);
+  const auto name = [](int parent) { return "parent" + std::to_string(parent); };
+  for (int parent = 0; parent < kParents; ++parent) ASSERT_EQ(Add(name(parent), ""), 0);
+  for (int round = 0; round < 5; ++round) {
+    for (int parent = 0; parent < kParents; ++parent) {
+      const std::string child = "child" + std::to_string(round) + "of" + std::to_string(parent);
+      std::string& all = expected[static_cast<std::size_t>(parent)];
+      const bool in_front = (round + parent) % 3 == 0;
+      const std::string first = all.substr(0, all.find(' '));
+      ASSERT_EQ(AddBefore(child.c_str(), name(parent).c_str(), in_front && round > 0 ? first.c_str() : nullptr), 0);
+      if (round == 0) {
+        all = child;
+      } else {
+        all = in_front ? child + " " + all : all + " " + child;
+      }
+      for (const int listed : {parent, 0, parent / 2}) {
+        const std::string& names = expected[static_cast<std::size_t>(listed)];
+        EXPECT_EQ(Copied(name(listed).c_str()), names);
+        if (names.empty()) continue;
+        int value = -1;
+        EXPECT_EQ(Do(2203, names.substr(0, names.find(' ')).c_str(), 3, &value), 0);
+      }
+    }
+  }
+}
+
 TEST_F(ListedChildren, OfADeletedParentAreNotThoseOfTheNextOne) {
   ExpectChildren("p", "a b c");
   EXPECT_EQ(Do(2031, "p"), 0);
