@@ -74,16 +74,16 @@ ColorIconBag::KnownIcons& ColorIconBag::IconsOf(const char* name) {
 
 const char* ColorIconBag::GetColorIcon(const char* name, unsigned int color) {
   if (color == kNoColor) return nullptr;
-  const char*& known = IconsOf(name).icons[color];  // null as long as there is no icon
-  if (known != nullptr) return known;
+  KnownIcons& known = IconsOf(name);
+  if (const auto found = known.icons.find(color); found != known.icons.end()) return found->second;
   std::string icon = GetIconName(name, color);
+  // The icon is there already when only remembering it by its colour had failed.
   auto owned = m_names.lower_bound(icon);
   if (owned == m_names.end() || *owned != icon) {
     if (!MakeIcon(name, icon.c_str(), color)) return nullptr;
     owned = m_names.insert(owned, std::move(icon));
   }
-  known = owned->c_str();
-  return known;
+  return known.icons.emplace(color, owned->c_str()).first->second;
 }
 
 std::string ColorIconBag::GetIconName(const char* name, unsigned int color) {

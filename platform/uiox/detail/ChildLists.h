@@ -77,7 +77,7 @@ class ChildLists {
     const Block* block = blocks_.As<Block>(handle);
     if (block->capacity != 0) {
       const Leaf* leaf = static_cast<const Leaf*>(block);
-      for (unsigned i = 0; i < leaf->count; ++i) nodes_.Prefetch(leaf->ids[i]);
+      for (unsigned i = 0; i < leaf->count; ++i) __builtin_prefetch(&nodes_[leaf->ids[i]]);
       for (unsigned i = 0; i < leaf->count; ++i) visit(leaf->ids[i]);
       return;
     }

@@ -40,9 +40,11 @@ class ListedChildren {
   }
   /// Throws std::bad_alloc; the list is to be forgotten then.
   void Append(NodeId child, std::string_view name) {
-    children_.push_back(kEnd);
     names_.insert(names_.end(), name.data(), name.data() + name.size() + 1);
-    children_[children_.size() - 2] = {child, static_cast<std::uint32_t>(name.size())};
+    children_.push_back(kEnd);
+    Child& last = *(children_.end() - 2);
+    last.size = static_cast<std::uint32_t>(name.size());
+    last.id = child;
   }
   void Finish() { is_good_ = true; }
   /// Gives the memory back.

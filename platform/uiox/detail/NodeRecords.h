@@ -47,8 +47,6 @@ class NodeRecords {
   NodeRecord& operator[](NodeId id) { return blocks_[id >> kBlockBits][id & (kBlockSize - 1)]; }
   const NodeRecord& operator[](NodeId id) const { return blocks_[id >> kBlockBits][id & (kBlockSize - 1)]; }
 
-  void Prefetch(NodeId id) const { __builtin_prefetch(&(*this)[id]); }
-
   bool Has(NodeId id) const { return id != kTop && id < end_ && ((*this)[id].bits & kInUse) != 0; }
   std::size_t Size() const { return size_; }
 

@@ -76,8 +76,10 @@ void NodeTable::AppendListed(detail::ListedChildren& list, NodeId parent) const 
   for (;;) {
     const detail::ChildLists::Run run = children_.RunFrom(parent, static_cast<std::uint32_t>(list.Size()));
     if (run.begin == run.end) break;
-    // Records lie anywhere in memory: all of a run are on their way before the first is needed.
-    for (const NodeId* child = run.begin; child != run.end; ++child) nodes_.Prefetch(*child);
+    // Records, and long names even more, lie anywhere in memory: all of a run are on their way before the first is
+    // needed.
+    for (const NodeId* child = run.begin; child != run.end; ++child) __builtin_prefetch(&nodes_[*child]);
+    for (const NodeId* child = run.begin; child != run.end; ++child) __builtin_prefetch(Name(*child));
     for (const NodeId* child = run.begin; child != run.end; ++child) list.Append(*child, NameOf(*child));
   }
   list.Finish();
