@@ -38,27 +38,25 @@ class NodeGuess {
   /// It was none of them. The name stays where it is until the node goes.
   void FoundElsewhere(NodeId node, std::string_view name) {
     // At the end of a list there was no guess, and nothing to learn.
-    if (likely_[after_[past_]].child.id != kTop) after_[past_] = kElsewhere;
+    if (likely_[after_[past_]].id != kTop) after_[past_] = kElsewhere;
     Note(kElsewhere);
-    likely_[kSame] = {name.data(), {node, static_cast<std::uint32_t>(name.size())}};
+    likely_[kSame] = {name.data(), node, static_cast<std::uint32_t>(name.size())};
   }
 
   /// The node that the last call named, or `kTop`.
-  NodeId Last() const { return likely_[kSame].child.id; }
+  NodeId Last() const { return likely_[kSame].id; }
   /// Where its name stays from now on.
   void SetLastName(const char* name) { likely_[kSame].name = name; }
 
   /// The child so many rows behind the next one, or `kTop`.
   NodeId ChildAhead(std::size_t rows) const {
-    const bool is_there = likely_[kNextChild].child.id != kTop && rows < static_cast<std::size_t>(end_ - next_);
-    return is_there ? next_[rows].id : kTop;
+    return likely_[kNextChild].id != kTop && row_ + rows < list_->Size() ? list_->Ids()[row_ + rows] : kTop;
   }
 
   /// The children of a list were handed out.
   void ChildrenListed(const ListedChildren& list) {
     list_ = &list;
-    end_ = list.Children() + list.Size();
-    LookAt(list.Children(), list.Names().data());
+    LookAt(0, list.Names().data());
   }
   /// A list is void.
   void ListForgotten(const ListedChildren& list) {
@@ -74,32 +72,31 @@ class NodeGuess {
 
   struct Node {
     const char* name = "";
-    ListedChildren::Child child{kTop, 0};
+    NodeId id = kTop;
+    std::uint32_t size = 0;
   };
 
   NodeId TryStep(Step step, std::string_view name) {
-    const ListedChildren::Child child = likely_[step].child;
-    const char* const text = likely_[step].name;
-    if (child.id == kTop || !AreSame(name, {text, child.size})) return kTop;
+    const Node node = likely_[step];
+    if (node.id == kTop || !AreSame(name, {node.name, node.size})) return kTop;
     Note(step);
     if (step == kNextChild) {
-      likely_[kSame] = {text, child};
-      LookAt(next_ + 1, text + child.size + 1);
+      likely_[kSame] = node;
+      LookAt(row_ + 1, node.name + node.size + 1);
     }
-    return child.id;
+    return node.id;
   }
   void Note(Step step) { past_ = (past_ << kStepBits | step) % after_.size(); }
-  void LookAt(const ListedChildren::Child* child, const char* name) {
-    next_ = child;
-    likely_[kNextChild] = {name, *child};
+  void LookAt(std::size_t row, const char* name) {
+    row_ = row;
+    likely_[kNextChild] = row < list_->Size() ? Node{name, list_->Ids()[row], list_->Sizes()[row]} : Node{};
   }
 
   std::array<Step, std::size_t{1} << kStepBits * kSteps> after_{};  // by the last steps
   std::array<Node, kNextChild + 1> likely_{};                       // by step
   std::size_t past_ = 0;
   const ListedChildren* list_ = nullptr;  // that was handed out last
-  const ListedChildren::Child* next_ = nullptr;
-  const ListedChildren::Child* end_ = nullptr;
+  std::size_t row_ = 0;                   // of its next child
 };
 
 }  // namespace uiox::detail

@@ -264,7 +264,7 @@ const char* const* NodeTable::LentChildren(NodeId node) {
   if (!answers.children) {
     const detail::ListedChildren& list = ListChildren(node);
     answers.children = std::make_unique<const char*[]>(count);
-    for (std::size_t row = 0; row < count; ++row) answers.children[row] = Name(list.Children()[row].id);
+    for (std::size_t row = 0; row < count; ++row) answers.children[row] = Name(list.Ids()[row]);
     nodes_[node].bits |= detail::kHasLent;
   } else if (ListOf(node).AreOf(node)) {
     guess_.ChildrenListed(ListOf(node));

@@ -44,7 +44,7 @@ void* CopyChildren(const NodeTable& table, NodeId node) {
   std::memcpy(characters, names.data(), names.size());
   for (std::size_t row = 0; row < listed.Size(); ++row) {
     pointers[row] = characters;
-    characters += listed.Children()[row].size + 1;
+    characters += listed.Sizes()[row] + 1;
   }
   return pointers;
 }
