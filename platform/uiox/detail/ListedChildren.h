@@ -12,8 +12,8 @@
 
 namespace uiox::detail {
 
-/// A node's children, and their names one behind the other, as they were handed out. Whoever lists children
-/// mostly goes through them next, and mostly lists the same ones again when another has been added behind them.
+/// A node's children, and their names one behind the other, as they were handed out. Whoever lists children mostly
+/// goes through them next, and mostly lists the same ones again when another has been added behind them.
 class ListedChildren {
  public:
   /// Whether these are the children of a node, but for those that came behind them since.

@@ -24,10 +24,9 @@ class NameBlock {
   /// Ends with a 0.
   static std::string_view Name(const void* block) {
     const std::size_t length = *static_cast<const unsigned char*>(block);
-    const char* name = Characters(block);
+    const char* name = static_cast<const char*>(block) + 1;
     return {name, length == kLong ? std::strlen(name) : length};
   }
-  static const char* Characters(const void* block) { return static_cast<const char*>(block) + 1; }
 
  private:
   static constexpr std::size_t kLong = 255;

@@ -302,8 +302,8 @@ const char* const* NodeTable::LentSelection() {
 std::size_t NodeTable::MemoryUse() const {
   std::size_t lists = 0;
   for (const detail::ListedChildren& list : lists_) lists += list.MemoryUse();
-  return lists + nodes_.MemoryUse() + blocks_.MemoryUse() + index_.MemoryUse() + cells_.MemoryUse() + selection_.MemoryUse() +
-         rare_.size() * (sizeof(Rare) + 4 * sizeof(void*));
+  return lists + nodes_.MemoryUse() + blocks_.MemoryUse() + index_.MemoryUse() + cells_.MemoryUse() +
+         selection_.MemoryUse() + rare_.size() * (sizeof(Rare) + 4 * sizeof(void*));
 }
 
 }  // namespace uiox
