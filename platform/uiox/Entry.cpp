@@ -84,13 +84,12 @@ using uiox::CodeGroup;
 using uiox::Function;
 
 OXECAD_UIOX_API int ui_do_operation(const char* device, const char* component, int operation, ...) {
+  va_list quick_slots;  // its address goes nowhere, so it stays in registers
+  va_start(quick_slots, operation);
+  const int answer = uiox::wire::AnswerQuickly(device, component, operation, &quick_slots);
+  va_end(quick_slots);
+  if (answer != uiox::wire::kNotQuick) return answer;
   va_list slots;
-  if (uiox::wire::QuickRead::CanBe(operation)) {
-    va_start(slots, operation);
-    const uiox::wire::QuickRead read(operation, &slots);
-    va_end(slots);
-    if (read.IsQuick()) return read.Answer(device, component);
-  }
   va_start(slots, operation);
   const int result = uiox::OperationCall(device, component, operation, &slots);
   va_end(slots);

@@ -96,7 +96,7 @@ inline constexpr GroupIndex kGroups[] = {
 };
 static_assert(std::size(kGroups) == static_cast<std::size_t>(CodeGroup::GlobalCode) + 1);
 
-inline const GroupIndex& IndexOf(CodeGroup group) { return kGroups[static_cast<std::size_t>(group)]; }
+constexpr const GroupIndex& IndexOf(CodeGroup group) { return kGroups[static_cast<std::size_t>(group)]; }
 
 /// What a call of an operation brings: its positional slots, what follows them, and the table of its options.
 struct OperationShape {

@@ -4,7 +4,8 @@
 #define OXECAD_UIOX_DETAIL_FOUNDCOMPONENT_H
 
 #include <uiox/Device.h>
-#include <uiox/detail/ShortText.h>
+
+#include <cstring>
 
 namespace uiox::detail {
 
@@ -14,7 +15,7 @@ class FoundComponent {
   /// Null where there is none, or for a null name.
   Widget* Find(const char* device, const char* component) {
     if (!device || !component) return nullptr;
-    const bool again = last_ && AreEqual(component, component_name_) && AreEqual(device, device_name_);
+    const bool again = last_ && std::strcmp(component, component_name_) == 0 && std::strcmp(device, device_name_) == 0;
     return again ? last_ : FindAnew(device, component);
   }
   /// A component has ended, and is not looked at again.

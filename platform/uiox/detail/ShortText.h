@@ -19,16 +19,6 @@ bool AreSameWords(const char* a, const char* b) {
   return first == second;
 }
 
-/// The same as std::strcmp() == 0, which costs a call.
-inline bool AreEqual(const char* a, const char* b) {
-  for (;; a += 4, b += 4) {
-    for (int i = 0; i < 4; ++i) {  // unrolled
-      if (a[i] != b[i]) return false;
-      if (a[i] == 0) return true;
-    }
-  }
-}
-
 /// The same as `a == b`, which costs a call. Names of devices, components and nodes are short, and mostly equal where
 /// they are compared.
 inline bool AreSame(std::string_view a, std::string_view b) {

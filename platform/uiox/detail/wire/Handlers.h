@@ -40,7 +40,7 @@ Status SetNode(TreeWidget& tree, const Call& call);
 Status InquireNode(TreeWidget& tree, const Call& call);
 Status GetNode(TreeWidget& tree, const Call& call);
 /// A copy of a text of a node, to be owned by the caller.
-Status HandCopy(const TreeWidget& tree, NodeId node, int attribute, Slot place);
+Status HandCopy(const TreeWidget& tree, NodeId node, std::size_t row, Slot place);
 /// Frees what a node attribute handed out.
 Status Release(const Option& option);
 

@@ -57,7 +57,7 @@ void Inquire(TreeStore& store, NodeId node, const Option& option) {
       if (option.array.word != 0) Answer<const char* const*>(option.array, store.Table().LentChildren(node));
       return Answer<int>(place, static_cast<int>(store.ChildCount(node)));
     default:
-      return AnswerPlain(option.shape, place, PlainValue(store, node, attribute));
+      return AnswerPlain(store, node, AttributeRow(attribute), place);
   }
 }
 

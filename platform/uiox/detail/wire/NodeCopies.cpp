@@ -55,15 +55,15 @@ const char* ParentName(const NodeTable& table, NodeId node) {
 }
 
 /// A copy of a text; null for what is no text.
-void* CopyOfText(const NodeTable& table, NodeId node, int attribute) {
-  switch (static_cast<NodeAttribute>(attribute)) {
-    case NodeAttribute::Label:
+void* CopyOfText(const NodeTable& table, NodeId node, std::size_t row) {
+  switch (row) {
+    case AttributeRow(NodeAttribute::Label):
       return CopyWide(table.Label(node));
-    case NodeAttribute::SecondText:
+    case AttributeRow(NodeAttribute::SecondText):
       return CopyWide(table.SecondText(node));
-    case NodeAttribute::Type:
+    case AttributeRow(NodeAttribute::Type):
       return CopyText(Suite::Get().Types().Name(table.Type(node)));
-    case NodeAttribute::Parent:
+    case AttributeRow(NodeAttribute::Parent):
       return CopyText(ParentName(table, node));
     default:
       return nullptr;
@@ -72,7 +72,7 @@ void* CopyOfText(const NodeTable& table, NodeId node, int attribute) {
 
 /// The copy that an option asks for, or null where it asks for no copy (or for that of an empty list).
 void* Copy(const NodeTable& table, NodeId node, const Option& option) {
-  if (option.shape != 'L') return CopyOfText(table, node, option.code);
+  if (option.shape != 'L') return CopyOfText(table, node, AttributeRow(option.code));
   return option.array.word != 0 ? CopyChildren(table, node) : nullptr;
 }
 
@@ -89,7 +89,7 @@ void Hand(const TreeStore& store, NodeId node, const Option& option, void* copy)
       if (option.array.word != 0) Answer<void*>(option.array, copy);
       return Answer<int>(place, static_cast<int>(store.ChildCount(node)));
     default:
-      return AnswerPlain(option.shape, place, PlainValue(store, node, attribute));
+      return AnswerPlain(store, node, AttributeRow(attribute), place);
   }
 }
 
@@ -114,9 +114,9 @@ Status GetNode(TreeWidget& tree, const Call& call) {
   return kOk;  // NOLINT(clang-analyzer-unix.Malloc): the copies are the caller's now
 }
 
-Status HandCopy(const TreeWidget& tree, NodeId node, int attribute, Slot place) {
+Status HandCopy(const TreeWidget& tree, NodeId node, std::size_t row, Slot place) {
   try {
-    Answer<void*>(place, CopyOfText(tree.Store().Table(), node, attribute));
+    Answer<void*>(place, CopyOfText(tree.Store().Table(), node, row));
     return kOk;
   } catch (const std::bad_alloc&) {
     return kNoMemory;

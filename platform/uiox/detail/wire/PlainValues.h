@@ -4,45 +4,64 @@
 #define OXECAD_UIOX_DETAIL_WIRE_PLAINVALUES_H
 
 #include <uiox/TreeStore.h>
+#include <uiox/detail/CodeIndex.h>
 #include <uiox/detail/wire/Handlers.h>
 
+#include <cstddef>
 #include <cstdint>
+#include <iterator>
+#include <string_view>
 
 namespace uiox::wire {
 
-/// Whether a letter of the shapes, in either case, is that of a plain value.
-inline bool IsPlain(char letter) {
-  const int lower_case = letter | 0x20;
-  return lower_case == 'i' || lower_case == 'u' || lower_case == 'p';
+/// The number of an attribute's row, from 1; 0 for a code that is none.
+constexpr std::size_t AttributeRow(int code) { return detail::IndexOf(CodeGroup::NodeAttribute).NumberOf(code); }
+constexpr std::size_t AttributeRow(oxecad_ui::toolkit::NodeAttribute attribute) {
+  return AttributeRow(static_cast<int>(attribute));
 }
 
-/// A plain value of a node, as it fills a slot; 0 for texts and lists.
-inline std::intptr_t PlainValue(const TreeStore& store, NodeId node, oxecad_ui::toolkit::NodeAttribute attribute) {
-  using oxecad_ui::toolkit::NodeAttribute;
-  switch (attribute) {
-    case NodeAttribute::UserData:
-      return reinterpret_cast<std::intptr_t>(store.Table().UserData(node));
-    case NodeAttribute::CheckState:
-      return store.CheckState(node);
-    case NodeAttribute::PartlyChecked:
-      return store.PartlyChecked(node) ? 1 : 0;
-    case NodeAttribute::CheckSensitive:
-      return store.CheckSensitive(node) ? 1 : 0;
-    case NodeAttribute::FirstInt:
-      return store.FirstInt(node);
-    case NodeAttribute::Expanded:
-      return store.Expanded(node);
-    case NodeAttribute::ThirdInt:
-      return store.ThirdInt(node);
-    default:
-      return 0;
+/// Attributes by their rows, one bit for each.
+class AttributeRows {
+ public:
+  /// Those whose values have one of these letters.
+  constexpr explicit AttributeRows(std::string_view letters) {
+    std::uint32_t bit = 1;
+    for (const CodeInfo& row : detail::kNodeAttributes) {
+      bit <<= 1;
+      if (letters.find(row.shape[0]) != letters.npos) bits_ |= bit;
+    }
+    static_assert(std::size(detail::kNodeAttributes) < 32);
   }
-}
+  constexpr bool Has(std::size_t row) const { return (bits_ >> row & 1) != 0; }
 
-/// Writes it to where a letter of that kind wants it.
-inline void AnswerPlain(char letter, Slot place, std::intptr_t value) {
-  if ((letter | 0x20) == 'p') return Answer<std::intptr_t>(place, value);
-  Answer<std::uint32_t>(place, static_cast<std::uint32_t>(value));
+ private:
+  std::uint32_t bits_ = 0;
+};
+inline constexpr AttributeRows kPlainAttributes{"iup"};
+inline constexpr AttributeRows kTextAttributes{"sw"};
+
+/// Writes a plain value of a node to its place.
+inline void AnswerPlain(const TreeStore& store, NodeId node, std::size_t row, Slot place) {
+  using oxecad_ui::toolkit::NodeAttribute;
+  const auto answer = [place](auto value) { Answer<std::uint32_t>(place, static_cast<std::uint32_t>(value)); };
+  switch (row) {
+    case AttributeRow(NodeAttribute::UserData):
+      return Answer<void*>(place, store.Table().UserData(node));
+    case AttributeRow(NodeAttribute::CheckState):
+      return answer(store.CheckState(node));
+    case AttributeRow(NodeAttribute::PartlyChecked):
+      return answer(store.PartlyChecked(node) ? 1 : 0);
+    case AttributeRow(NodeAttribute::CheckSensitive):
+      return answer(store.CheckSensitive(node) ? 1 : 0);
+    case AttributeRow(NodeAttribute::FirstInt):
+      return answer(store.FirstInt(node));
+    case AttributeRow(NodeAttribute::Expanded):
+      return answer(store.Expanded(node));
+    case AttributeRow(NodeAttribute::ThirdInt):
+      return answer(store.ThirdInt(node));
+    default:
+      break;  // texts and lists
+  }
 }
 
 }  // namespace uiox::wire
