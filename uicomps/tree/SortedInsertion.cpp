@@ -37,6 +37,8 @@ void Empty(Tree::NodeInfo& record) {
   record.expanded = false;
 }
 
+int Middle(int low, int high) { return low + (high - low) / 2; }
+
 /// The component name of the tree that filled its memory of inserted names last; empty and unset until one did. It is
 /// the name and not a pointer to it, because the tree may be gone by now.
 struct CacheOwner {
@@ -71,9 +73,13 @@ int Tree::SearchPlace(int count, const NameAt& nameAt, const CComparator<NodeInf
   int failedReads = 0;
   NodeInfo record;
   while (low <= high) {
-    const int middle = low + (high - low) / 2;
+    const int middle = Middle(low, high);
+    const std::string& name = nameAt(middle);
+    // While this child is read and compared, the two names come from memory of which one is next.
+    if (low < middle) __builtin_prefetch(&nameAt(Middle(low, middle - 1)));
+    if (middle < high) __builtin_prefetch(&nameAt(Middle(middle + 1, high)));
     Empty(record);
-    if (!GetNodeInfo(nameAt(middle), record)) {
+    if (!GetNodeInfo(name.c_str(), record)) {
       if (++failedReads == kMostFailedReads) return count;
       continue;
     }
@@ -91,7 +97,7 @@ int Tree::SearchPlace(int count, const NameAt& nameAt, const CComparator<NodeInf
 int Tree::BinarySearchNodeLocation(std::vector<std::string>& children, const CComparator<NodeInfo>* cmp,
                                    NodeInfo& node) {
   if (children.empty()) return 0;  // without children no comparator is needed: it may be null
-  const auto nameAt = [&](int index) { return children[static_cast<std::size_t>(index)].c_str(); };
+  const auto nameAt = [&](int index) -> const std::string& { return children[static_cast<std::size_t>(index)]; };
   return SearchPlace(static_cast<int>(children.size()), nameAt, *cmp, node);
 }
 
@@ -121,7 +127,7 @@ int Tree::FindPlace(const SortedNames& children, NodeComparableType order, NodeI
     return count;
   }
   SortedNames::Reader names(children);
-  const auto nameAt = [&](int index) { return names.At(static_cast<std::size_t>(index)).c_str(); };
+  const auto nameAt = [&](int index) -> const std::string& { return names.At(static_cast<std::size_t>(index)); };
   return SearchPlace(count, nameAt, EcadLabelOrder(), node);
 }
 
