@@ -46,8 +46,13 @@ NodeId NodeTable::Find(std::string_view name) const {
 
 NodeId NodeTable::FindAnew(std::string_view name) const {
   if (const NodeId node = guess_.TryOthers(name)) return node;
-  const NodeId node = Find(name);
-  if (node != kNoNode) guess_.FoundElsewhere(node, NameOf(node));
+  NodeId node = search_guess_.Try(name);
+  if (node == kTop) {
+    node = Find(name);
+    if (node == kNoNode) return node;
+    search_guess_.FoundElsewhere(node);
+  }
+  guess_.FoundElsewhere(node, NameOf(node));
   return node;
 }
 
@@ -137,6 +142,7 @@ void NodeTable::Free(NodeId node) noexcept {
 void NodeTable::NodesGone() noexcept {
   for (detail::ListedChildren& list : lists_) list.Forget();
   guess_.NodesGone();
+  search_guess_.NodesGone();
 }
 
 void NodeTable::Clear() noexcept {

@@ -14,6 +14,7 @@
 #include <uiox/detail/NodeGuess.h>
 #include <uiox/detail/NodeRecords.h>
 #include <uiox/detail/NodeTexts.h>
+#include <uiox/detail/SearchGuess.h>
 #include <uiox/detail/SelectionList.h>
 
 #include <array>
@@ -144,6 +145,7 @@ class NodeTable {
   static constexpr unsigned kListBits = 3;  // a walk up a tree lists the same few nodes again and again
   mutable std::array<detail::ListedChildren, 1u << kListBits> lists_;
   mutable detail::NodeGuess guess_;
+  mutable detail::SearchGuess search_guess_{nodes_, children_, texts_};
 };
 
 }  // namespace uiox
