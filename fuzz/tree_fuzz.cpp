@@ -402,9 +402,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   fuzz::Input input(data, size);
   uiox::Suite& suite = uiox::Suite::Get();
   suite.Reset();
-  ColorIconBag& bag = ColorIconBag::Get();
-  bag.m_names.clear();
-  bag.m_known.clear();
+  ColorIconBag::Get().m_known.clear();
   suite.ObtainTree("dev", "tree", {"a", "b", "overlap", "showMode", "dimOverlap"});
   switch (input.Below(5)) {
     case 0:

@@ -74,16 +74,13 @@ ColorIconBag::KnownIcons& ColorIconBag::IconsOf(const char* name) {
 
 const char* ColorIconBag::GetColorIcon(const char* name, unsigned int color) {
   if (color == kNoColor) return nullptr;
-  KnownIcons& known = IconsOf(name);
-  if (const auto found = known.icons.find(color); found != known.icons.end()) return found->second;
-  std::string icon = GetIconName(name, color);
-  // The icon is there already when only remembering it by its colour had failed.
-  auto owned = m_names.lower_bound(icon);
-  if (owned == m_names.end() || *owned != icon) {
-    if (!MakeIcon(name, icon.c_str(), color)) return nullptr;
-    owned = m_names.insert(owned, std::move(icon));
-  }
-  return known.icons.emplace(color, owned->c_str()).first->second;
+  auto& icons = IconsOf(name).icons;
+  if (const auto found = icons.find(color); found != icons.end()) return found->second.c_str();
+  // Remembered first: when that fails the toolkit has not been asked yet, and is not asked twice.
+  const std::string& icon = icons.emplace(color, GetIconName(name, color)).first->second;
+  if (MakeIcon(name, icon.c_str(), color)) return icon.c_str();
+  IconsOf(name).icons.erase(color);
+  return nullptr;
 }
 
 std::string ColorIconBag::GetIconName(const char* name, unsigned int color) {

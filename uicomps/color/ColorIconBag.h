@@ -3,10 +3,7 @@
 #ifndef OXECAD_UI_COLOR_COLORICONBAG_H
 #define OXECAD_UI_COLOR_COLORICONBAG_H
 
-#include <functional>
-#include <set>
 #include <string>
-#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -40,17 +37,17 @@ class OXECAD_UI_EXPORT ColorIconBag {
   unsigned int GetColorFromIcon(const char* icon, const char* name) const;
 
  private:
-  /// The icons of one base image, to find them without building their names.
+  /// The names of one base image's icons by colour: an icon is found without building its name, and names stay where
+  /// they are.
   struct KnownIcons {
     std::string base;
-    std::unordered_map<unsigned int, const char*> icons;
+    std::unordered_map<unsigned int, std::string> icons;
   };
 
   ColorIconBag();
   static std::string GetIconName(const char* name, unsigned int color);
   KnownIcons& IconsOf(const char* name);
 
-  std::set<std::string> m_names;
   std::vector<KnownIcons> m_known;
 };
 
