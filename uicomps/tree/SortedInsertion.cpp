@@ -39,6 +39,18 @@ void Empty(Tree::NodeInfo& record) {
 
 int Middle(int low, int high) { return low + (high - low) / 2; }
 
+/// Names in a vector, as `SortedNames::Reader` offers its own.
+class ListedNames {
+ public:
+  explicit ListedNames(const std::vector<std::string>& names) : m_names(names) {}
+  std::size_t Size() const { return m_names.size(); }
+  const std::string& At(std::size_t index) const { return m_names[index]; }
+  const std::string* Near(std::size_t index) const { return index < Size() ? &m_names[index] : nullptr; }
+
+ private:
+  const std::vector<std::string>& m_names;
+};
+
 /// The component name of the tree that filled its memory of inserted names last; empty and unset until one did. It is
 /// the name and not a pointer to it, because the tree may be gone by now.
 struct CacheOwner {
@@ -65,19 +77,19 @@ const CComparator<Tree::NodeInfo>* Tree::GenerateEcadComperatorByType(NodeCompar
   return nullptr;
 }
 
-template <class NameAt>
-int Tree::SearchPlace(int count, const NameAt& nameAt, const CComparator<NodeInfo>& comparator,
-                      const NodeInfo& node) const {
+template <class Names>
+int Tree::SearchPlace(Names names, const CComparator<NodeInfo>& comparator, const NodeInfo& node) const {
+  const int count = static_cast<int>(names.Size());
   int low = 0;
   int high = count - 1;
   int failedReads = 0;
   NodeInfo record;
   while (low <= high) {
     const int middle = Middle(low, high);
-    const std::string& name = nameAt(middle);
+    const std::string& name = names.At(static_cast<std::size_t>(middle));
     // While this child is read and compared, the two names come from memory of which one is next.
-    if (low < middle) __builtin_prefetch(&nameAt(Middle(low, middle - 1)));
-    if (middle < high) __builtin_prefetch(&nameAt(Middle(middle + 1, high)));
+    __builtin_prefetch(names.Near(static_cast<std::size_t>(Middle(low, middle - 1))));
+    __builtin_prefetch(names.Near(static_cast<std::size_t>(Middle(middle + 1, high))));
     Empty(record);
     if (!GetNodeInfo(name.c_str(), record)) {
       if (++failedReads == kMostFailedReads) return count;
@@ -97,8 +109,7 @@ int Tree::SearchPlace(int count, const NameAt& nameAt, const CComparator<NodeInf
 int Tree::BinarySearchNodeLocation(std::vector<std::string>& children, const CComparator<NodeInfo>* cmp,
                                    NodeInfo& node) {
   if (children.empty()) return 0;  // without children no comparator is needed: it may be null
-  const auto nameAt = [&](int index) -> const std::string& { return children[static_cast<std::size_t>(index)]; };
-  return SearchPlace(static_cast<int>(children.size()), nameAt, *cmp, node);
+  return SearchPlace(ListedNames(children), *cmp, node);
 }
 
 void Tree::ClaimCache(const char* parent) {
@@ -120,15 +131,12 @@ SortedNames* Tree::CachedChildren(const char* parent, const std::string& name) {
 }
 
 int Tree::FindPlace(const SortedNames& children, NodeComparableType order, NodeInfo& node) const {
-  const int count = static_cast<int>(children.Size());
-  if (count == 0) return count;
+  if (children.Size() == 0) return 0;
   if (order != ByLabel) {
     SayNotSupported();
-    return count;
+    return static_cast<int>(children.Size());
   }
-  SortedNames::Reader names(children);
-  const auto nameAt = [&](int index) -> const std::string& { return names.At(static_cast<std::size_t>(index)); };
-  return SearchPlace(count, nameAt, EcadLabelOrder(), node);
+  return SearchPlace(SortedNames::Reader(children), EcadLabelOrder(), node);
 }
 
 bool Tree::AddEcadNode(const char* name, const wchar_t* label, const char* parent, NodeComparableType order,

@@ -18,11 +18,17 @@ const std::string& SortedNames::At(std::size_t index) const {
   return m_chunks[place.chunk][place.offset];
 }
 
+const std::string* SortedNames::Reader::Near(std::size_t index) const {
+  const std::size_t start = m_names.m_starts[m_chunk];
+  const Chunk& chunk = m_names.m_chunks[m_chunk];
+  return index >= start && index - start < chunk.size() ? &chunk[index - start] : nullptr;
+}
+
 const std::string& SortedNames::Reader::At(std::size_t index) {
-  const std::vector<std::size_t>& starts = m_names.m_starts;
-  const bool isNear = index >= starts[m_chunk] && (m_chunk + 1 == starts.size() || index < starts[m_chunk + 1]);
-  if (!isNear) m_chunk = m_names.Find(index).chunk;
-  return m_names.m_chunks[m_chunk][index - starts[m_chunk]];
+  if (const std::string* near = Near(index)) return *near;
+  const Place place = m_names.Find(index);
+  m_chunk = place.chunk;
+  return m_names.m_chunks[place.chunk][place.offset];
 }
 
 void SortedNames::Insert(std::size_t index, std::string name) {

@@ -23,7 +23,10 @@ class SortedNames {
   class Reader {
    public:
     explicit Reader(const SortedNames& names) : m_names(names) {}
+    std::size_t Size() const { return m_names.Size(); }
     const std::string& At(std::size_t index);
+    /// The same without a search, or null: only where it stands in the chunk of the name found before.
+    const std::string* Near(std::size_t index) const;
 
    private:
     const SortedNames& m_names;

@@ -273,8 +273,8 @@ class OXECAD_UI_EXPORT Tree : public BaseTree {
   SortedNames* CachedChildren(const char* parent, const std::string& name);
   /// The index before which the record goes among the cached children; their number means the end.
   int FindPlace(const SortedNames& children, NodeComparableType order, NodeInfo& node) const;
-  template <class NameAt>
-  int SearchPlace(int count, const NameAt& nameAt, const CComparator<NodeInfo>& comparator, const NodeInfo& node) const;
+  template <class Names>
+  int SearchPlace(Names names, const CComparator<NodeInfo>& comparator, const NodeInfo& node) const;
 
   ChildNameCache m_childNames;
   DirtyHandler m_dirtyHandler = nullptr;

@@ -28,7 +28,8 @@ void SearchGuess::FoundElsewhere(NodeId node) {
   parent_ = nodes_[node].parent;
   first_ = 0;
   end_ = children_.Count(parent_);
-  if (end_ >= kFewest && children_.At(parent_, Middle(first_, end_)) == node) LookAhead();
+  if (end_ < kFewest || end_ > kMost) return;
+  if (children_.At(parent_, Middle(first_, end_)) == node) LookAhead();
 }
 
 void SearchGuess::LookAhead() {

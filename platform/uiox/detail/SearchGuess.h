@@ -33,7 +33,10 @@ class SearchGuess {
  private:
   /// So many nodes that were no search's, and only one in so many is looked at.
   static constexpr std::uint32_t kPatience = 16;
-  static constexpr std::uint32_t kFewest = 4;  // children worth a guess
+  /// Children worth a guess. Of more, most searches read the same few, which are near anyway, and finding a row costs
+  /// more than finding a name.
+  static constexpr std::uint32_t kFewest = 4;
+  static constexpr std::uint32_t kMost = 2048;
 
   static std::uint32_t Middle(std::uint32_t first, std::uint32_t end) { return first + (end - first - 1) / 2; }
   bool IsNamed(NodeId node, std::string_view name) const;
