@@ -45,7 +45,7 @@ class ListedNames {
   explicit ListedNames(const std::vector<std::string>& names) : m_names(names) {}
   std::size_t Size() const { return m_names.size(); }
   const std::string& At(std::size_t index) const { return m_names[index]; }
-  const std::string* Near(std::size_t index) const { return index < Size() ? &m_names[index] : nullptr; }
+  const std::string* Near(std::size_t index) const { return m_names.data() + index; }  // or the end
 
  private:
   const std::vector<std::string>& m_names;

@@ -7,7 +7,6 @@
 
 namespace uiox {
 
-using detail::BlockArena;
 using detail::LentAnswers;
 using detail::NodeBits;
 using detail::NodeRecord;
