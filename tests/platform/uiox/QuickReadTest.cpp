@@ -158,6 +158,30 @@ TEST_F(QuickRead, WritesAsManyBytesAsTheValueHas) {
   EXPECT_EQ(data, &suite);
 }
 
+TEST_F(QuickRead, WithoutOneOfTwoPlacesWritesNothing) {
+  constexpr int kNoPlace = 9;
+  for (const int operation : {2202, 2203}) {
+    int value = 77;
+    EXPECT_EQ(Do(operation, "full", 3, &value, 31, nullptr), kNoPlace);
+    EXPECT_EQ(Do(operation, "full", 3, nullptr, 31, &value), kNoPlace);
+    EXPECT_EQ(value, 77);
+  }
+}
+
+TEST_F(QuickRead, OfATextIsACopyOnlyWhereOneWasAskedFor) {
+  for (const int code : {2, 25, 282, 283}) {
+    const void* first = nullptr;
+    const void* second = nullptr;
+    EXPECT_EQ(Do(2203, "full", code, &first), 0);
+    EXPECT_EQ(Do(2203, "full", code, &second), 0);
+    EXPECT_EQ(first, second) << code;
+    void* copy = nullptr;
+    EXPECT_EQ(Do(2202, "full", code, &copy), 0);
+    EXPECT_NE(copy, first) << code;
+    EXPECT_EQ(ui_free(code, &copy, kEnd), 0);
+  }
+}
+
 TEST_F(QuickRead, GivesNumbersAsTheyAre) {
   int numbers[2] = {0, 0};
   EXPECT_EQ(Do(2202, "full", 3, &numbers[0], 4, &numbers[1]), 0);

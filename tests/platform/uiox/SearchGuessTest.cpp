@@ -49,7 +49,7 @@ class SearchGuess : public WireTest {
 
 // About the sizes of a leaf (64 children) and of a block of leaves (32).
 TEST_F(SearchGuess, EveryPlaceIsFound) {
-  for (const std::intptr_t count : {1, 2, 3, 4, 5, 7, 8, 63, 64, 65, 100, 128, 129, 2047, 2049}) {
+  for (const std::intptr_t count : {1, 2, 3, 4, 5, 7, 8, 63, 64, 65, 100, 128, 129, 2047, 2048, 2049}) {
     ASSERT_EQ(Do(2031, "p"), 0);
     ASSERT_EQ(Add("p", ""), 0);
     AddChildren(count);
